@@ -1,0 +1,40 @@
+# What every target of the project is built with. Warnings are set per target, by orderparam_defaults().
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+set(orderparam_sanitize_flags "")
+if(ORDERPARAM_SANITIZE)
+    set(orderparam_sanitize_flags -fsanitize=${ORDERPARAM_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+endif()
+if(ORDERPARAM_COVERAGE)
+    list(APPEND orderparam_sanitize_flags --coverage)
+endif()
+
+# Warnings, Qt's traps off, sanitizers, moc and rcc for one target.
+function(orderparam_defaults target)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON AUTORCC ON)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wshadow -Wconversion ${orderparam_sanitize_flags})
+    target_link_options(${target} PRIVATE ${orderparam_sanitize_flags})
+    if(ORDERPARAM_WERROR)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    if(NOT ORDERPARAM_SANITIZE)
+        target_link_options(${target} PRIVATE -Wl,--no-undefined)
+    endif()
+endfunction()
