@@ -1,0 +1,109 @@
+#include "reference/toolkit/PersonEvents.h"
+
+#include "reference/toolkit/GuiThread.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QWidget>
+
+#include <exception>
+
+namespace WQ {
+
+namespace {
+
+QEvent::Type personEventType()
+{
+    static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
+    return type;
+}
+
+struct PersonEvent : QEvent
+{
+    PersonEvent(QWidget* who, CEventDeliverer& from)
+        : QEvent(personEventType())
+        , sender(who)
+        , deliverer(from)
+    {
+    }
+
+    QPointer<QWidget> sender;
+    CEventDeliverer& deliverer;
+    int event = 0;
+    int a = 0;
+    int b = 0;
+    QString text;
+    QVariant data;
+    bool withData = false;
+};
+
+void reportException(const char* what)
+{
+    static bool said = false;
+    if (said)
+        return;
+    said = true;
+    qWarning("A listener threw from a person's event, which is dropped: %s", what);
+}
+
+/// Receives the queued events of all senders, so that they keep one order. Nothing may be thrown through Qt's loop.
+class Dispatcher : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    void customEvent(QEvent* received) override
+    {
+        if (received->type() != personEventType())
+            return;
+        auto& person = static_cast<PersonEvent&>(*received);
+        if (!person.sender)
+            return;
+        try {
+            person.deliverer.deliverEvent(person.event, person.a, person.b, person.text,
+                                          person.withData ? &person.data : nullptr);
+        } catch (const std::exception& exception) {
+            reportException(exception.what());
+        } catch (...) {
+            reportException("not a standard exception");
+        }
+    }
+};
+
+/// Lives as long as the application object; null without one.
+Dispatcher* dispatcher()
+{
+    static QPointer<Dispatcher> theDispatcher;
+    if (!theDispatcher && QCoreApplication::instance())
+        theDispatcher = new Dispatcher(QCoreApplication::instance());
+    return theDispatcher;
+}
+
+} // namespace
+
+void postPersonEvent(QWidget* sender, CEventDeliverer& deliverer, int event, int a, int b, QString text, QVariant data,
+                     bool withData)
+{
+    checkGuiThread("postPersonEvent");
+    Dispatcher* receiver = dispatcher();
+    if (!sender || !receiver)
+        return;
+    auto* person = new PersonEvent(sender, deliverer);
+    person->event = event;
+    person->a = a;
+    person->b = b;
+    person->text = std::move(text);
+    person->data = std::move(data);
+    person->withData = withData;
+    QCoreApplication::postEvent(receiver, person);
+}
+
+void deliverPostedPersonEvents()
+{
+    if (Dispatcher* receiver = dispatcher())
+        QCoreApplication::sendPostedEvents(receiver, personEventType());
+}
+
+} // namespace WQ
