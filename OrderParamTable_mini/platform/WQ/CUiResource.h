@@ -5,11 +5,7 @@
 #include <QColor>
 #include <QString>
 
-#include <memory>
-
 namespace WQ {
-
-class CUiResourcePrivate;
 
 /// The UI resource service: sizes and colours by key, at the current theme and UI scale.
 class WQ_EXPORT CUiResource
@@ -33,11 +29,8 @@ public:
     double getUIScale() const;
 
 private:
-    friend class CUiResourcePrivate;
     CUiResource();
     ~CUiResource();
-
-    std::unique_ptr<CUiResourcePrivate> const d;
 };
 
 } // namespace WQ

@@ -1,0 +1,56 @@
+#include "reference/toolkit/Resources.h"
+
+#include "reference/toolkit/ThemeStore.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+
+#include <algorithm>
+
+namespace WQ::resources {
+
+namespace {
+
+bool isSans(const QString& family)
+{
+    const auto says = [&family](const char* word) { return family.contains(QLatin1String(word), Qt::CaseInsensitive); };
+    return !says("serif") && !says("mono") && !says("ming") && !says("song") && !says("kai");
+}
+
+QString installedFamily()
+{
+    const QFontDatabase database;
+    const QStringList installed = database.families();
+    for (const QString& family : ThemeStore::instance().families())
+        if (installed.contains(family))
+            return family;
+    const QStringList chinese = database.families(QFontDatabase::SimplifiedChinese);
+    const auto sans = std::find_if(chinese.cbegin(), chinese.cend(), isSans);
+    if (sans != chinese.cend())
+        return *sans;
+    return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+}
+
+// Fonts can be looked up once there is an application.
+QString textFamily()
+{
+    if (!qGuiApp)
+        return ThemeStore::instance().families().value(0);
+    static const QString family = installedFamily();
+    return family;
+}
+
+} // namespace
+
+QFont font(const QString& key, double scale)
+{
+    bool known = false;
+    const FontRole role = ThemeStore::instance().font(key, known);
+    QFont font(textFamily());
+    font.setPixelSize(std::max(1, scaled(role.size, scale)));
+    font.setWeight(role.weight);
+    font.setUnderline(!known);
+    return font;
+}
+
+} // namespace WQ::resources
