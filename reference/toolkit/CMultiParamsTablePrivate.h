@@ -1,0 +1,170 @@
+#pragma once
+
+#include "reference/toolkit/cells/CellModel.h"
+#include "reference/toolkit/cells/CellPainter.h"
+#include "reference/toolkit/cells/ComboCell.h"
+#include "reference/toolkit/cells/NumberCell.h"
+#include "reference/toolkit/cells/RowLayout.h"
+#include "reference/toolkit/cells/ValueCells.h"
+
+#include <WQ/CMultiParamsTable.h>
+
+#include <memory>
+
+namespace WQ {
+
+class CellInteraction;
+
+/// What stands behind a cell table. The table forwards its calls here; CellInteraction (reference/toolkit/editors)
+/// reads the geometry here and changes cells through model().
+///
+/// After changing a cell, call model().touch(cell); its row is repainted with the next flush. After a call that runs
+/// foreign code, ask a QPointer to the table before touching anything.
+class CMultiParamsTablePrivate
+{
+public:
+    CMultiParamsTablePrivate(CMultiParamsTable* table, bool fontScale);
+    ~CMultiParamsTablePrivate();
+
+    static CMultiParamsTablePrivate* of(const CMultiParamsTable* table)
+    {
+        return table->d.get();
+    }
+
+    CMultiParamsTable* table() const
+    {
+        return m_table;
+    }
+
+    CellModel& model()
+    {
+        return *m_model;
+    }
+
+    const CellModel& model() const
+    {
+        return *m_model;
+    }
+
+    /// Made when first asked for: a table that only shows never needs it.
+    CellInteraction& interaction();
+
+    /// Null while nobody has interacted.
+    CellInteraction* interactionIfAny() const
+    {
+        return m_interaction.get();
+    }
+
+    const RowMetrics& metrics() const
+    {
+        return m_metrics;
+    }
+
+    /// The scale of the table: the UI scale, or 1 with the font scale off.
+    double scale() const
+    {
+        return m_metrics.scale;
+    }
+
+    /// @name Geometry, in the viewport's coordinates
+    /// @{
+
+    /// Empty for a cell that is not shown.
+    QRect rowRect(int row) const;
+    QRect rowRect(const CellItem& cell) const;
+
+    /// -1 outside the rows.
+    int rowAt(const QPoint& position) const;
+
+    /// Null outside the rows.
+    CellItem* cellAt(const QPoint& position) const;
+
+    /// The parts of a row: label, check, value, unit, chevron.
+    RowLayout layoutOf(const CellItem& cell) const;
+
+    /// Where the filter's footer stands; empty while it is taken away.
+    QRect footerRect() const;
+
+    /// Rows and footer.
+    int contentHeight() const;
+
+    /// @}
+
+    /// The cell of the current row; null without one.
+    CellItem* currentCell() const;
+    void setCurrentCell(const CellItem& cell);
+
+    /// Repaints one row.
+    void update(const CellItem& cell);
+    void updateFooter();
+
+    /// Why a row is painted as it is; the interaction adds wrong, editing, and where the mouse is.
+    RowState rowState(const CellItem& cell) const;
+
+    /// The full texts of an elided row, else the note of a value off its grid; empty without either.
+    QString toolTipOf(const CellItem& cell) const;
+
+    bool isFooterVisible() const
+    {
+        return m_footerVisible;
+    }
+
+    void setFooterVisible(bool visible);
+
+    /// The filter can be used: footer there, table collapsed, cells and widget enabled.
+    bool isFilterEnabled() const;
+
+    /// @name For the table itself
+    /// @{
+    void paint(QPaintEvent* event);
+    void setFontScale(bool fontScale);
+    void takeScale();
+    void updateColumns();
+    int labelColumn() const;
+    int add(std::unique_ptr<CMultiParamsTableItem> item);
+
+    template <class Change>
+    bool change(int id, Change change)
+    {
+        CellItem* cell = m_model->cell(id);
+        if (!cell || !change(*cell))
+            return false;
+        m_model->touch(cell);
+        return true;
+    }
+    /// @}
+
+private:
+    void applyMetrics();
+    void columnResized(int column);
+
+    CMultiParamsTable* const m_table;
+    RowMetrics m_metrics;
+    CellModel* const m_model;
+    std::unique_ptr<CellInteraction> m_interaction;
+    mutable int m_widestLabel = -1; // -1: not measured
+    int m_hostColumn = -1;          // -1: the host has set no width
+    bool m_sizingColumns = false;
+    bool m_footerVisible = true;
+    bool m_fontScale;
+};
+
+// CellInteraction's functions that the table calls, each only once somebody interacts:
+//
+//   explicit CellInteraction(CMultiParamsTablePrivate& table);
+//   bool keyPress(QKeyEvent*), mousePress(QMouseEvent*), mouseRelease(QMouseEvent*), mouseDoubleClick(QMouseEvent*),
+//        mouseMove(QMouseEvent*), wheel(QWheelEvent*), contextMenu(QContextMenuEvent*), toolTip(QHelpEvent*),
+//        focusNextPrevious(bool next)
+//     answer true when they took the event; on false QTableView gets it.
+//   void leave(), focusIn(QFocusEvent*), focusOut(QFocusEvent*), hidden()
+//   void currentChanged(const QModelIndex& current, const QModelIndex& previous)
+//   bool edit(const QModelIndex&, QAbstractItemView::EditTrigger, QEvent*)   // all of QTableView's editing goes here
+//   void closeEditor(QWidget*, QAbstractItemDelegate::EndEditHint)
+//   QModelIndex moveCursor(CMultiParamsTable::CursorAction, Qt::KeyboardModifiers)
+//   void relayout()           // rows, widths, scale or scroll position have changed: move the open editor
+//   void cellChanged(const CellItem&)   // from the program, an editor may stand open over it
+//   void enabledChanged(), filterChanged(), themeChanged()
+//   void addRowState(const CellItem&, RowState&) const; FooterState footerState() const
+//   QString wrongText(const CellItem&) const   // what a tooltip says of wrong input; empty when there is none
+
+} // namespace WQ

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QFont>
+#include <QRect>
+#include <QString>
+
+namespace WQ {
+
+class CellItem;
+
+/// The sizes of a row at one scale, read once from the resources.
+struct RowMetrics
+{
+    explicit RowMetrics(double scale);
+
+    double scale;
+    QFont font;
+    int textHeight;
+    int rowHeight;
+    int footerHeight;
+    int padding;
+    int gap;      ///< between value, unit, chevron and between label and value
+    int chevron;  ///< square
+    int checkBox; ///< square
+    int bar;      ///< at the left of a value off its grid
+};
+
+/// Where the parts of a row stand, in the coordinates of the row's rectangle. A part that the cell lacks is empty.
+struct RowLayout
+{
+    QRect label;
+    QRect check; ///< box and its text
+    QRect value; ///< from where the label ends up to unit, chevron or padding: where an editor stands
+    QRect unit;
+    QRect chevron;
+    QString labelText; ///< elided where it does not fit
+    QString checkText;
+    QString valueText;
+    QString unitText;
+    bool elided = false; ///< whether any text is
+
+    /// Unit and chevron together: what a click opens the list of units on.
+    QRect unitArea() const
+    {
+        return unit.united(chevron);
+    }
+};
+
+/// Lays out @p cell in @p row. Unit, chevron and check stand at the right; label and value share the rest, each using
+/// what the other leaves. Where both are too long, the label gets @p labelColumn pixels, counted from the row's left.
+RowLayout layoutRow(const CellItem& cell, const QRect& row, const RowMetrics& metrics, int labelColumn);
+
+} // namespace WQ
