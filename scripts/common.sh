@@ -63,7 +63,7 @@ run_apt() {
 not_offered() {
     local package
     for package in "$@"; do
-        LC_ALL=C apt-cache policy "$package" 2>/dev/null | grep -q 'Candidate: [0-9]' || printf ' %s' "$package"
+        [[ $(LC_ALL=C apt-cache policy "$package" 2>/dev/null) == *Candidate:\ [0-9]* ]] || printf ' %s' "$package"
     done
 }
 
@@ -75,7 +75,7 @@ ensure_packages() {
         is_installed "$package" || missing+=("$package")
     done
     [[ ${#missing[@]} == 0 ]] && return
-    can_be_root || fail "no root and no sudo, and these packages are missing: ${missing[*]} (as root: apt-get install ${missing[*]})"
+    can_be_root || fail "no root and no sudo to install missing packages; as root: apt-get install ${missing[*]}"
     install_packages "${missing[@]}"
 }
 

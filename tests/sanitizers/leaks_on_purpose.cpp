@@ -7,7 +7,7 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     QTimer::singleShot(0, &application, [&application] {
-        QString* volatile lost = new QString(QStringLiteral("lost"));
+        [[maybe_unused]] QString* volatile lost = new QString(QStringLiteral("lost"));
         lost = nullptr;
         application.quit();
     });
