@@ -36,7 +36,7 @@ argument_of() {
 }
 
 is_installed() {
-    [[ $(dpkg-query -W -f '${db:Status-Status} ' "$1" 2>/dev/null) == *installed\ * ]]
+    [[ " $(dpkg-query -W -f '${db:Status-Status} ' "$1" 2>/dev/null)" == *' installed '* ]]
 }
 
 # Runs a command as root; a terminal may be asked for the password, a pipe never is.
