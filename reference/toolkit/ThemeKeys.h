@@ -32,11 +32,11 @@ inline const QString kScrollHandle = QStringLiteral("clr_scroll_handle"); ///< h
 inline const QString kPanelWidth = QStringLiteral("tc_siz_operation_panel_param_table_width"); ///< width of a panel
 inline const QString kPanelQuotesHeight = QStringLiteral("tc_siz_code_quotes_height"); ///< panel height, lower part
 inline const QString kPanelTopHeight =
-    QStringLiteral("tc_siz_operation_panel_top_height");                ///< panel height, upper part
-inline const QString kRowHeight = QStringLiteral("siz_row_height");     ///< row of the cell table, separator included
-inline const QString kPadding = QStringLiteral("siz_padding");          ///< left and right of a row, a button's text
-inline const QString kUnitGap = QStringLiteral("siz_unit_gap");         ///< between value, unit and chevron
-inline const QString kStripHeight = QStringLiteral("siz_strip_height"); ///< order-mode strip; never scaled
+    QStringLiteral("tc_siz_operation_panel_top_height");            ///< panel height, upper part
+inline const QString kRowHeight = QStringLiteral("siz_row_height"); ///< row of the cell table, separator included
+inline const QString kPadding = QStringLiteral("siz_padding");      ///< left and right of a row, a title, a popup entry
+inline const QString kUnitGap = QStringLiteral("siz_unit_gap");     ///< between value, unit and chevron
+inline const QString kStripHeight = QStringLiteral("siz_strip_height");    ///< order-mode strip; never scaled
 inline const QString kStripTextMax = QStringLiteral("siz_strip_text_max"); ///< largest text of a button; never scaled
 inline const QString kUnderline = QStringLiteral("siz_underline");         ///< underline of the checked button
 inline const QString kNoticeBar = QStringLiteral("siz_notice_bar");        ///< bar at the left of a value off the grid
@@ -48,7 +48,12 @@ inline const QString kChevron = QStringLiteral("siz_chevron");    ///< chevron o
 inline const QString kCheckBox = QStringLiteral("siz_check_box"); ///< box of a check, square
 inline const QString kIcon = QStringLiteral("siz_icon");          ///< icon of a button, square
 inline const QString kHelpIcon = QStringLiteral("siz_help_icon"); ///< help mark of a button group, square
-inline const QString kCriticalDot = QStringLiteral("siz_critical_dot");   ///< dot of a critical help mark, square
+inline const QString kCriticalDot = QStringLiteral("siz_critical_dot");        ///< dot of a critical help mark, square
+inline const QString kButtonPadding = QStringLiteral("siz_button_padding");    ///< left and right of a button's text
+inline const QString kButtonGap = QStringLiteral("siz_button_gap");            ///< between neighbours of a group
+inline const QString kHelpButton = QStringLiteral("siz_help_button");          ///< width of a group's help button
+inline const QString kDropDownButton = QStringLiteral("siz_drop_down_button"); ///< width of a group's drop-down button
+inline const QString kCloseButton = QStringLiteral("siz_close_button");        ///< a dialog's close button, square
 inline const QString kFieldPadding = QStringLiteral("siz_field_padding"); ///< inside an input field, left and right
 inline const QString kFieldLabelWidth = QStringLiteral("siz_field_label_width"); ///< label column of single cells
 inline const QString kFieldGap = QStringLiteral("siz_field_gap");       ///< between label column and input field
@@ -56,6 +61,7 @@ inline const QString kFieldHeight = QStringLiteral("siz_field_height"); ///< sin
 
 // Fonts.
 inline const QString kTextFont = QStringLiteral("fnt_default_normal_fix"); ///< labels, values, buttons
+inline const QString kCheckedFont = QStringLiteral("fnt_button_checked");  ///< text of a checked button
 inline const QString kNoticeFont = QStringLiteral("fnt_notice");           ///< notices and tooltips
 inline const QString kTitleFont = QStringLiteral("fnt_title");             ///< title of a dialog
 

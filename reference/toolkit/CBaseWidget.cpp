@@ -1,0 +1,86 @@
+#include <WQ/CBaseWidget.h>
+
+#include "reference/toolkit/Painting.h"
+#include "reference/toolkit/Resources.h"
+#include "reference/toolkit/ThemeKeys.h"
+
+#include <QPainter>
+#include <QPointer>
+
+#include <utility>
+
+namespace WQ {
+
+class CBaseWidgetPrivate
+{
+public:
+    bool active = false;
+    bool fixFont = false;
+};
+
+CBaseWidget::CBaseWidget(QString objectName, bool active, QWidget* parent)
+    : CEventWidgetT<QWidget>(parent)
+    , d(std::make_unique<CBaseWidgetPrivate>())
+{
+    setObjectName(objectName);
+    d->active = active;
+}
+
+CBaseWidget::~CBaseWidget() = default;
+
+bool CBaseWidget::handleEvent(int, int, int, QString, void*)
+{
+    return false;
+}
+
+void CBaseWidget::themeChanged()
+{
+    update();
+}
+
+void CBaseWidget::scaleChanged()
+{
+    if (d->fixFont)
+        setFont(resources::font(keys::kTextFont, painting::scaleOf(this)));
+    update();
+}
+
+void CBaseWidget::setFixFont()
+{
+    d->fixFont = true;
+    setFont(resources::font(keys::kTextFont, painting::scaleOf(this)));
+}
+
+QRect CBaseWidget::getMaskRect() const
+{
+    return rect();
+}
+
+void CBaseWidget::setActive(bool active, bool takeFocus)
+{
+    const bool changed = std::exchange(d->active, active) != active;
+    if (!active)
+        return;
+    const QPointer<CBaseWidget> self(this);
+    if (takeFocus)
+        setFocus(Qt::OtherFocusReason);
+    if (changed && self)
+        onActive();
+}
+
+void CBaseWidget::onActive()
+{
+}
+
+void CBaseWidget::paintBackgroud(QPainter& painter)
+{
+    painter.fillRect(rect(), resources::color(keys::kWindow));
+}
+
+void CBaseWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    paintBackgroud(painter);
+}
+
+} // namespace WQ

@@ -1,0 +1,107 @@
+#include <WQ/CScrollArea.h>
+
+#include "reference/toolkit/Resources.h"
+#include "reference/toolkit/SlimScrollBar.h"
+#include "reference/toolkit/ThemeKeys.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace WQ {
+
+namespace {
+
+// What a wheel tells: eighths of a degree, 120 of them a notch.
+constexpr double kNotch = 120;
+constexpr int kRowsANotch = 2;
+
+} // namespace
+
+class CScrollAreaPrivate
+{
+public:
+    explicit CScrollAreaPrivate(CScrollArea* area)
+        : bar(new SlimScrollBar(Qt::Vertical, ground, area))
+    {
+    }
+
+    int wheelPixels(const QWheelEvent& event);
+
+    QString ground = keys::kWindow;
+    SlimScrollBar* const bar;
+    double rest = 0; ///< of a pixel, that a slow wheel has not scrolled yet
+};
+
+int CScrollAreaPrivate::wheelPixels(const QWheelEvent& event)
+{
+    const int row = resources::size(keys::kRowHeight, resources::scale());
+    const double wanted =
+        event.pixelDelta().isNull() ? event.angleDelta().y() / kNotch * kRowsANotch * row : event.pixelDelta().y();
+    if (wanted * rest < 0)
+        rest = 0;
+    rest += wanted;
+    const int pixels = static_cast<int>(rest);
+    rest -= pixels;
+    return pixels;
+}
+
+CScrollArea::CScrollArea(QWidget* parent)
+    : CEventWidgetT<QScrollArea>(parent)
+    , d(std::make_unique<CScrollAreaPrivate>(this))
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(false);
+    setVerticalScrollBar(d->bar);
+    // Content is as wide as the area or narrower by the bar; in between a second bar would only flicker.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+CScrollArea::~CScrollArea() = default;
+
+void CScrollArea::setWidget(QWidget* widget)
+{
+    if (widget && widget != this && !widget->isAncestorOf(this))
+        QScrollArea::setWidget(widget);
+}
+
+void CScrollArea::setBackgroundColorKey(QString key)
+{
+    d->ground = key;
+    d->bar->setGroundKey(key);
+    viewport()->update();
+}
+
+int CScrollArea::getScrollBarWidth() const
+{
+    return d->bar->thickness();
+}
+
+void CScrollArea::themeChanged()
+{
+    viewport()->update();
+}
+
+void CScrollArea::scaleChanged()
+{
+    QEvent layout(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(this, &layout);
+    viewport()->update();
+}
+
+void CScrollArea::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(viewport());
+    painter.fillRect(event->rect(), resources::color(d->ground));
+}
+
+// No animation, and no fixed lines: a fine wheel scrolls by the pixels that it says.
+void CScrollArea::wheelEvent(QWheelEvent* event)
+{
+    const int before = d->bar->value();
+    d->bar->setValue(before - d->wheelPixels(*event));
+    event->setAccepted(d->bar->value() != before || d->rest != 0);
+}
+
+} // namespace WQ

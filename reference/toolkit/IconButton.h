@@ -1,0 +1,37 @@
+#pragma once
+
+#include <WQ/CUiResourceChangeHandler.h>
+
+#include <QAbstractButton>
+
+namespace WQ {
+
+/// A small button of the toolkit's own that shows an image: closes a dialog, opens a list, asks for help. It sends no
+/// toolkit event.
+class IconButton : public QAbstractButton, public CUiResourceChangeHandler
+{
+    Q_OBJECT
+public:
+    /// @p sizeKey is the size of the image. Both keys are of the theme files.
+    IconButton(QString imageKey, QString sizeKey, QWidget* parent);
+
+    /// A dot at the upper right of the image, in the notice colour.
+    void setDot(bool dot);
+
+    void themeChanged() override;
+    void scaleChanged() override;
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void paintDot(QPainter& painter, int edge) const;
+
+    const QString m_imageKey;
+    const QString m_sizeKey;
+    bool m_dot = false;
+};
+
+} // namespace WQ

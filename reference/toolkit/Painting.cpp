@@ -1,0 +1,89 @@
+#include "reference/toolkit/Painting.h"
+
+#include "reference/toolkit/Resources.h"
+#include "reference/toolkit/ThemeKeys.h"
+
+#include <WQ/CBaseDialog.h>
+
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace WQ::painting {
+
+namespace {
+
+constexpr int kMostCharacters = 300;
+
+} // namespace
+
+double scaleOf(const QWidget* widget)
+{
+    return widget && qobject_cast<const CBaseDialog*>(widget->window()) ? 1.0 : resources::scale();
+}
+
+double buttonScaleOf(const QWidget* widget)
+{
+    const double atOne = resources::font(keys::kTextFont, 1.0).pixelSize();
+    return std::min(scaleOf(widget), resources::size(keys::kStripTextMax, 1.0) / atOne);
+}
+
+qreal hairline(const QPainter& painter)
+{
+    const QPaintDevice* device = painter.device();
+    return device ? 1.0 / device->devicePixelRatioF() : 1.0;
+}
+
+void drawFrame(QPainter& painter, const QRect& rect, const QColor& color)
+{
+    const QRectF outer(rect);
+    const qreal line = hairline(painter);
+    painter.fillRect(QRectF(outer.left(), outer.top(), outer.width(), line), color);
+    painter.fillRect(QRectF(outer.left(), outer.bottom() - line, outer.width(), line), color);
+    painter.fillRect(QRectF(outer.left(), outer.top(), line, outer.height()), color);
+    painter.fillRect(QRectF(outer.right() - line, outer.top(), line, outer.height()), color);
+}
+
+void drawText(QPainter& painter, const QRect& rect, const QFont& font, const QColor& color, Qt::Alignment alignment,
+              const QString& text)
+{
+    if (text.isEmpty() || rect.isEmpty())
+        return;
+    const QFontMetrics metrics(font);
+    const QString shown = metrics.elidedText(shownText(text), Qt::ElideRight, rect.width());
+    painter.setFont(font);
+    painter.setPen(color);
+    painter.drawText(rect, static_cast<int>(alignment) | Qt::TextSingleLine, shown);
+}
+
+void drawImage(QPainter& painter, const QRect& rect, const QString& key, const QColor& tint, int edge)
+{
+    if (key.isEmpty() || edge <= 0)
+        return;
+    const QPaintDevice* device = painter.device();
+    const QPixmap image = resources::image(key, tint, QSize(edge, edge), device ? device->devicePixelRatioF() : 1.0);
+    painter.drawPixmap(rect.left() + (rect.width() - edge) / 2, rect.top() + (rect.height() - edge) / 2, image);
+}
+
+QString shownText(const QString& text)
+{
+    return text.size() <= kMostCharacters ? text : text.left(kMostCharacters) + QChar(0x2026);
+}
+
+int textWidth(const QFont& font, const QString& text)
+{
+    return QFontMetrics(font).horizontalAdvance(shownText(text));
+}
+
+void showToolTip(const QHelpEvent& asked, const QString& text, QWidget* widget)
+{
+    const QString markup =
+        text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(shownText(text).toHtmlEscaped());
+    QToolTip::showText(asked.globalPos(), markup, widget);
+}
+
+} // namespace WQ::painting

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QRect>
+#include <QString>
+
+class QHelpEvent;
+class QPainter;
+class QWidget;
+
+/// What the toolkit's widgets paint with, so that none of them depends on the application's style.
+namespace WQ::painting {
+
+/// The scale of a widget: the UI scale, but 1 in a toolkit dialog, which keeps its size with all in it.
+double scaleOf(const QWidget* widget);
+
+/// The UI scale of a widget as far as a button's text may follow it.
+double buttonScaleOf(const QWidget* widget);
+
+/// One device pixel in the painter's units.
+qreal hairline(const QPainter& painter);
+
+/// A frame of one device pixel inside @p rect.
+void drawFrame(QPainter& painter, const QRect& rect, const QColor& color);
+
+/// @p text on one line, with an ellipsis at its end where it does not fit.
+void drawText(QPainter& painter, const QRect& rect, const QFont& font, const QColor& color, Qt::Alignment alignment,
+              const QString& text);
+
+/// The image of @p key in the middle of @p rect, @p edge pixels square.
+void drawImage(QPainter& painter, const QRect& rect, const QString& key, const QColor& tint, int edge);
+
+/// As much of a text as a widget may ever show: what follows would only cost time.
+QString shownText(const QString& text);
+
+/// The width of @p text in @p font, of what may be shown of it.
+int textWidth(const QFont& font, const QString& text);
+
+/// Shows a text as it is, tags and all, where a tooltip is asked for; an empty text hides the tooltip.
+void showToolTip(const QHelpEvent& asked, const QString& text, QWidget* widget);
+
+} // namespace WQ::painting
