@@ -33,11 +33,13 @@ struct CInstrumentDetail;
 
 namespace TC {
 
+struct OrderState;
+
 /// The widget that every order-parameter table is built on: a strip of order-mode buttons over a scrolling cell table.
 ///
 /// Cells are built once, by the constructor, and addressed by the bits of EOperationCellFlag; later operations hide,
-/// show, relabel, re-range or refill them. The host learns of changes through toolkit events; after any event, and after
-/// save() and reloadParam(), the table may have been deleted by its host and touches nothing of itself then.
+/// show, relabel, re-range or refill them. The host learns of changes through toolkit events; after any event, and
+/// after save() and reloadParam(), the table may have been deleted by its host and touches nothing of itself then.
 ///
 /// No operation fails loudly: a missing cell, button or cell table makes the step that needs it do nothing, and unknown
 /// enumeration values take the general branch. Everything runs on the GUI thread.
@@ -160,7 +162,7 @@ public:
     /// up) and for 97, 248, 249 and 1213, false for the others it acts on (73, 87, 101, 102, 118, 124, 1071), and what
     /// the toolkit base answers for any other. Sends 129, 130, 1061, 1062, 1063, 1064, 1206 and 1244. The data of 73
     /// points at a QVariant, that of 1213 at an int; without data neither changes a price type.
-    bool handleEvent(int event, int a, int b, QString text, void* data) override;
+    bool handleEvent(int event, int a, int b, QString text, void* payload) override;
 
     /// Makes sure that the button of the setting's order type can be seen: when the group has buttons but not that one,
     /// asks it to bring it in. Null changes nothing.
@@ -383,55 +385,78 @@ protected Q_SLOTS:
     void slotShouldHintAlgorithm(int orderType, bool hint);
 
 private:
+    OrderState state() const;
     void createModeStrip();
-    void addModeButton(int buttonId, const QString& text);
+    void addModeButton(ttservice::EOrderType type, const QString& text);
     void createCells();
     void applyPanelSize();
     void fitTableHeight();
     void showCellArea(bool visible);
-    int stripHeight(bool placed) const;
-    void placeStrip(int width);
+    void showStrip();
+    void checkModeButton();
+    quint32 hideCellsByRules();
+    void hideAlgorithmCells(bool hidden);
+    quint32* visibleWord();
+    void setPriceTypeFromCell(const QString& text, ttservice::EPriceType priceType);
+
+    /// Places the strip for that width and answers its height; 0 when it is not placed.
+    int placeStrip(int width, bool isPlaced);
     void placeScrollArea(QSize size, int top);
 
+    /// @name Steps that may end the table: they answer whether it still lives
+    /// @{
+    bool send(int event, int a, int b, const QString& text, void* payload = nullptr);
+    bool saveAndStayAlive();
+    bool announceChange(const QString& text);
+    bool recolourPriceDisplay();
+    bool showParameterSet(ttservice::EOrderType type);
+    bool enterPlainMode(ttservice::EOrderType type);
+    bool enterParameterSetMode(ttservice::EOrderType type);
+    bool reloadParameterSet();
+    bool announceMode(bool plain, const QString& text);
+    bool announceWithoutOperation(const QString& text);
+    /// @}
+
     bool onButtonClicked(int buttonId, const QString& text);
-    bool onPlainMode(int buttonId, const QString& text);
-    bool onParameterSetMode(int buttonId, const QString& text);
-    void onCellChanged(int cellId, const QString& text, const void* data);
+    void onCellChanged(int cellId, const QString& text, const void* payload);
     void onNumberChanged(int cellId, const QString& text);
+    void onTextChanged();
     void onFilterApplied();
     void onFilterReset();
-    void onPriceTypeFromOutside(const QString& text, const void* data);
+    void onPriceTypeFromOutside(const QString& text, const void* payload);
+    void limitCellsBy(int cellId);
+    void updateHelp(bool plain);
     bool isParameterSetMode() const;
 
     // The members stand in the order that derived tables of clients rely on.
 protected:
-    int m_paramIndex = -1;                             ///< index of the parameter set in use; negative for none
-    WQ::CMultiParamsTable* m_table = nullptr;          ///< the cell table
-    WQ::CScrollArea* m_scrollArea = nullptr;           ///< holds the cell table
-    WQ::CWidgetList* m_btnList = nullptr;              ///< the strip that carries the button group
-    WQ::CDropDownButtonGroup* m_btnGroup = nullptr;    ///< the order-mode buttons
-    QMap<int, bool> m_hintMap;                         ///< by order type: the help button is marked
-    bool m_mapReady = true;                            ///< never read
+    int m_paramIndex = -1;                               ///< index of the parameter set in use; negative for none
+    WQ::CMultiParamsTable* m_table = nullptr;            ///< the cell table
+    WQ::CScrollArea* m_scrollArea = nullptr;             ///< holds the cell table
+    WQ::CWidgetList* m_btnList = nullptr;                ///< the strip that carries the button group
+    WQ::CDropDownButtonGroup* m_btnGroup = nullptr;      ///< the order-mode buttons
+    QMap<int, bool> m_hintMap;                           ///< by order type: the help button is marked
+    bool m_mapReady = true;                              ///< never read
     QMap<int, ttservice::COrderSetting> m_orderSettings; ///< settings records by the host's key
-    bool m_forceHideHelp = false;                      ///< stored for the host
+    bool m_forceHideHelp = false;                        ///< stored for the host
     EOpParamWidgetID m_id;
     ttservice::EOrderType m_orderType = ttservice::ORDER_TYPE_NORMAL;
     ttservice::EOperationType m_operationType = ttservice::OPT_NONE;
     ttservice::ENVBrokerType m_brokerType;
     OperationCellFlags m_flags = OperationCellFlags(kDefaultCellFlags); ///< the cells that the host allows
     QString m_stockCode;
-    bool m_ready = false;                              ///< false while the table is being built
+    bool m_ready = false;                                            ///< false while the table is being built
     ttservice::EPriceType m_paramPriceType = ttservice::PRTP_MARKET; ///< price type while m_paramIndex is not negative
-    int m_pendingPriceType = 0;                        ///< price type last passed to setPriceType()
+    int m_pendingPriceType = 0;                                      ///< price type last passed to setPriceType()
     bool m_expand = false;
-    std::array<quint32, 4> m_visibleFlags = {};        ///< the user's visible cells, a word for order types 0 to 3
+    std::array<quint32, 4> m_visibleFlags = {}; ///< the user's visible cells, a word for order types 0 to 3
     bool m_showModeButtons;
     bool m_tableFontScale;
     ttservice::ENvTraderType m_traderType;
-    bool m_lastFlag;                                   ///< the automatic order-book price type may be offered
+    bool m_lastFlag; ///< the automatic order-book price type may be offered
     QString m_priceTypeName = QString::fromLatin1("");
     ttservice::EPriceType m_priceType = ttservice::PRTP_NONE;
-    double m_originalPrice = 0.0;                      ///< the price that the host passed for the specified price type
+    double m_originalPrice = 0.0; ///< the price that the host passed for the specified price type
 };
 
 } // namespace TC

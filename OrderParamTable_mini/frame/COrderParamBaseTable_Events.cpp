@@ -1,0 +1,266 @@
+#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
+
+#include <OrderParamTable_mini/semantics/OrderModes.h>
+
+#include <WQ/CDropDownButtonGroup.h>
+#include <WQ/CMultiParamsTable.h>
+
+#include <QPointer>
+
+namespace TC {
+
+using namespace ttservice;
+
+namespace {
+
+const QString& noText()
+{
+    static const QString text = QString::fromLatin1("");
+    return text;
+}
+
+/// The smallest value that a host's limited cell takes.
+constexpr double kSmallestLimitedValue = 0.5;
+
+} // namespace
+
+bool COrderParamBaseTable::isParameterSetMode() const
+{
+    return m_paramIndex >= 0;
+}
+
+bool COrderParamBaseTable::send(int event, int a, int b, const QString& text, void* payload)
+{
+    const QPointer<COrderParamBaseTable> alive(this);
+    deliverEvent(event, a, b, text, payload);
+    return !alive.isNull();
+}
+
+bool COrderParamBaseTable::saveAndStayAlive()
+{
+    const QPointer<COrderParamBaseTable> alive(this);
+    save();
+    return !alive.isNull();
+}
+
+bool COrderParamBaseTable::announceChange(const QString& text)
+{
+    return saveAndStayAlive() && send(129, m_id, 0, text);
+}
+
+bool COrderParamBaseTable::recolourPriceDisplay()
+{
+    const QPointer<COrderParamBaseTable> alive(this);
+    resetShowFixPrice();
+    return !alive.isNull();
+}
+
+bool COrderParamBaseTable::handleEvent(int event, int a, int b, QString text, void* payload)
+{
+    switch (event) {
+    case 5:
+        if (onButtonClicked(a, text))
+            return true;
+        break;
+    case 73:
+        onCellChanged(a, text, payload);
+        return false;
+    case 87:
+    case 118:
+        onNumberChanged(a, text);
+        return false;
+    case 97:
+        send(130, m_id, 0, text);
+        return true;
+    case 101:
+    case 102:
+        onTextChanged();
+        return false;
+    case 124:
+        onFilterApplied();
+        return false;
+    case 248:
+        onFilterReset();
+        return true;
+    case 249:
+        return true;
+    case 1071:
+        resetLayout(size());
+        return false;
+    case 1213:
+        onPriceTypeFromOutside(text, payload);
+        return true;
+    }
+    return WQ::CBaseWidget::handleEvent(event, a, b, text, payload);
+}
+
+bool COrderParamBaseTable::onButtonClicked(int buttonId, const QString& text)
+{
+    const ButtonKind kind = buttonKind(buttonId);
+    if (kind == ButtonKind::Other)
+        return false;
+    const auto type = EOrderType(buttonId - kModeButtonBase);
+    const bool plain = kind == ButtonKind::PlainMode;
+    if (!(plain ? enterPlainMode(type) : enterParameterSetMode(type)) || !send(1064, m_id, m_orderType, text))
+        return true;
+    if (!(plain || reloadParameterSet()) || !announceMode(plain, text))
+        return true;
+    // A listener that has switched the mode meanwhile has settled what is shown.
+    if (m_orderType == orderTypeInMode(m_id, type))
+        showCellArea(plain);
+    if (!announceWithoutOperation(text))
+        return true;
+    if (m_orderType == orderTypeInMode(m_id, type))
+        updateHelp(plain);
+    setAlgoBtnVisible();
+    return true;
+}
+
+bool COrderParamBaseTable::enterPlainMode(EOrderType type)
+{
+    const QPointer<COrderParamBaseTable> alive(this);
+    m_paramIndex = -1;
+    saveVisibleFlag(m_expand);
+    if (m_ready && !saveAndStayAlive())
+        return false;
+    m_orderType = type;
+    resetPriceType();
+    reloadParam();
+    if (!alive)
+        return false;
+    resetCellVisibilities();
+    resetTableByPriceType();
+    fixSuperPrice();
+    updateCurrentPriceTypeName();
+    return true;
+}
+
+bool COrderParamBaseTable::enterParameterSetMode(EOrderType type)
+{
+    saveVisibleFlag(m_expand);
+    if (m_ready && !saveAndStayAlive())
+        return false;
+    m_paramIndex = parameterSetIndex(type);
+    m_orderType = type;
+    resetPriceType();
+    resetCellVisibilities();
+    fixSuperPrice();
+    return true;
+}
+
+bool COrderParamBaseTable::reloadParameterSet()
+{
+    const QPointer<COrderParamBaseTable> alive(this);
+    reloadParam();
+    if (!alive)
+        return false;
+    updateCurrentPriceTypeName();
+    return true;
+}
+
+bool COrderParamBaseTable::announceMode(bool plain, const QString& text)
+{
+    const EPriceType priceType = plain ? m_priceType : m_paramPriceType;
+    const bool isAnnounced = !plain || priceType != PRTP_NONE;
+    if (isAnnounced && !send(1061, m_id, priceType, text))
+        return false;
+    return recolourPriceDisplay() && (!m_ready || send(129, m_id, 0, text));
+}
+
+bool COrderParamBaseTable::announceWithoutOperation(const QString& text)
+{
+    return isOperationChosen(m_operationType) || send(1206, 0, 0, text, this);
+}
+
+void COrderParamBaseTable::updateHelp(bool plain)
+{
+    const bool followsMode = showAlgoHelpButton();
+    if (!m_btnGroup || (plain && !followsMode))
+        return;
+    const bool hasHelp = plain ? hasHelpPage(m_orderType) : hasParameterSetHelp(m_orderType);
+    m_btnGroup->setHelpButtonVisible(followsMode && hasHelp);
+    m_btnGroup->setHelpButtonCritical(m_hintMap.value(m_orderType));
+}
+
+void COrderParamBaseTable::setPriceTypeFromCell(const QString& text, EPriceType priceType)
+{
+    m_priceTypeName = text;
+    m_priceType = priceType;
+    if (isParameterSetMode())
+        m_paramPriceType = priceType;
+}
+
+void COrderParamBaseTable::onCellChanged(int cellId, const QString& text, const void* payload)
+{
+    if (!m_ready)
+        return;
+    if (const auto* const value = static_cast<const QVariant*>(payload)) {
+        if (cellId == OCF_PriceType)
+            setPriceTypeFromCell(text, EPriceType(value->toInt()));
+        else if (cellId == OCF_BaseVolume)
+            onVolumeTypeChange(EVolumeType(value->toInt()));
+    }
+    if (!saveAndStayAlive())
+        return;
+    fitTableHeight();
+    send(129, m_id, 0, text);
+}
+
+void COrderParamBaseTable::onNumberChanged(int cellId, const QString& text)
+{
+    if (isParameterSetMode())
+        return;
+    if (m_table)
+        limitCellsBy(cellId);
+    fixSuperPrice();
+    if (m_ready)
+        announceChange(text);
+}
+
+void COrderParamBaseTable::limitCellsBy(int cellId)
+{
+    const double value = m_table->itemDouble(cellId);
+    switch (cellId) {
+    case OCF_LimitingCell:
+        m_table->resetCellRange(OCF_LimitedCell, kSmallestLimitedValue, value);
+        break;
+    case OCF_MinSingleVolume:
+        m_table->resetCellRange(OCF_MaxSingleVolume, value, m_table->cellRange(OCF_MaxSingleVolume).second);
+        break;
+    case OCF_MaxSingleVolume:
+        m_table->resetCellRange(OCF_MinSingleVolume, m_table->cellRange(OCF_MinSingleVolume).first, value);
+        break;
+    }
+}
+
+void COrderParamBaseTable::onTextChanged()
+{
+    if (m_ready)
+        announceChange(noText());
+}
+
+void COrderParamBaseTable::onFilterApplied()
+{
+    saveVisibleFlag(m_expand);
+    if (!saveAndStayAlive())
+        return;
+    fitTableHeight();
+    resetLayout(size());
+}
+
+void COrderParamBaseTable::onFilterReset()
+{
+    if (quint32* const word = visibleWord())
+        *word = 0;
+    resetCellVisibilities();
+    if (m_table)
+        m_table->setMultiFilterWidgetParam();
+}
+
+void COrderParamBaseTable::onPriceTypeFromOutside(const QString& text, const void* payload)
+{
+    if (const auto* const value = static_cast<const int*>(payload))
+        setPriceTypeFromCell(text, EPriceType(*value));
+}
+
+} // namespace TC

@@ -17,7 +17,8 @@ class WQ_EXPORT CUserConfig : public QObject
 public:
     ~CUserConfig() override;
 
-    /// The client mode: an integer of the client's; 100 and 101 mark the modes that show algorithm buttons of their own.
+    /// The client mode: an integer of the client's; 100 and 101 mark the modes that show algorithm buttons of their
+    /// own.
     int clientMode() const;
 
 Q_SIGNALS:

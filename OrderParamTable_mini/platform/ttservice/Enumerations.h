@@ -21,43 +21,43 @@ enum EOrderType : int {
 
 /// What price an order is placed at.
 enum EPriceType : int {
-    PRTP_NONE = -1,              ///< none chosen; as a way to handle unfinished orders: leave them
-    PRTP_SELL5 = 0,              ///< fifth ask price
-    PRTP_SELL4 = 1,              ///< fourth ask price
-    PRTP_SELL3 = 2,              ///< third ask price
-    PRTP_SELL2 = 3,              ///< second ask price
-    PRTP_SELL1 = 4,              ///< best ask price
-    PRTP_LATEST = 5,             ///< last traded price
-    PRTP_BUY1 = 6,               ///< best bid price
-    PRTP_BUY2 = 7,               ///< second bid price
-    PRTP_BUY3 = 8,               ///< third bid price
-    PRTP_BUY4 = 9,               ///< fourth bid price
-    PRTP_BUY5 = 10,              ///< fifth bid price
-    PRTP_FIX = 11,               ///< a price that the user types
-    PRTP_MARKET = 12,            ///< market order; reported while a parameter-set mode is on
-    PRTP_SELF_QUEUE = 13,        ///< own-side queue price
-    PRTP_COUNTERPART = 14,       ///< counter-party price
-    PRTP_AUTO_BOOK = 15,         ///< chosen automatically from the order book
-    PRTP_PRE_CLOSE = 16,         ///< previous close
-    PRTP_MARKET_18 = 18,         ///< market orders 18 to 24
+    PRTP_NONE = -1,        ///< none chosen; as a way to handle unfinished orders: leave them
+    PRTP_SELL5 = 0,        ///< fifth ask price
+    PRTP_SELL4 = 1,        ///< fourth ask price
+    PRTP_SELL3 = 2,        ///< third ask price
+    PRTP_SELL2 = 3,        ///< second ask price
+    PRTP_SELL1 = 4,        ///< best ask price
+    PRTP_LATEST = 5,       ///< last traded price
+    PRTP_BUY1 = 6,         ///< best bid price
+    PRTP_BUY2 = 7,         ///< second bid price
+    PRTP_BUY3 = 8,         ///< third bid price
+    PRTP_BUY4 = 9,         ///< fourth bid price
+    PRTP_BUY5 = 10,        ///< fifth bid price
+    PRTP_FIX = 11,         ///< a price that the user types
+    PRTP_MARKET = 12,      ///< market order; reported while a parameter-set mode is on
+    PRTP_SELF_QUEUE = 13,  ///< own-side queue price
+    PRTP_COUNTERPART = 14, ///< counter-party price
+    PRTP_AUTO_BOOK = 15,   ///< chosen automatically from the order book
+    PRTP_PRE_CLOSE = 16,   ///< previous close
+    PRTP_MARKET_18 = 18,   ///< market orders 18 to 24
     PRTP_MARKET_19 = 19,
     PRTP_MARKET_20 = 20,
     PRTP_MARKET_21 = 21,
     PRTP_MARKET_22 = 22,
     PRTP_MARKET_23 = 23,
     PRTP_MARKET_24 = 24,
-    PRTP_OPT_FIX_FOK = 26,       ///< option limit order, fill or kill
-    PRTP_OPT_MARKET_FAK = 27,    ///< option market order, fill and kill
-    PRTP_OPT_MARKET_FOK = 28,    ///< option market order, fill or kill
-    PRTP_OPT_MARKET_TO_FIX = 29, ///< option market order, remainder turns into a limit order
-    PRTP_SH_BEST5_CANCEL = 42,   ///< first market family: best five levels, remainder cancelled
-    PRTP_SH_BEST5_TO_FIX = 43,   ///< first market family: best five levels, remainder turns into a limit order
+    PRTP_OPT_FIX_FOK = 26,         ///< option limit order, fill or kill
+    PRTP_OPT_MARKET_FAK = 27,      ///< option market order, fill and kill
+    PRTP_OPT_MARKET_FOK = 28,      ///< option market order, fill or kill
+    PRTP_OPT_MARKET_TO_FIX = 29,   ///< option market order, remainder turns into a limit order
+    PRTP_SH_BEST5_CANCEL = 42,     ///< first market family: best five levels, remainder cancelled
+    PRTP_SH_BEST5_TO_FIX = 43,     ///< first market family: best five levels, remainder turns into a limit order
     PRTP_SZ_COUNTERPART_BEST = 44, ///< counter-party best price
-    PRTP_SZ_SELF_BEST = 45,      ///< own-side best price
-    PRTP_SZ_FAK = 46,            ///< immediate fill, remainder cancelled
-    PRTP_SZ_BEST5_CANCEL = 47,   ///< second market family: best five levels, remainder cancelled
-    PRTP_SZ_FOK = 48,            ///< fill whole or cancel
-    PRTP_AFTER_HOURS_FIX = 49,   ///< after-hours trading at a fixed price
+    PRTP_SZ_SELF_BEST = 45,        ///< own-side best price
+    PRTP_SZ_FAK = 46,              ///< immediate fill, remainder cancelled
+    PRTP_SZ_BEST5_CANCEL = 47,     ///< second market family: best five levels, remainder cancelled
+    PRTP_SZ_FOK = 48,              ///< fill whole or cancel
+    PRTP_AFTER_HOURS_FIX = 49,     ///< after-hours trading at a fixed price
 };
 
 /// What an order does.
@@ -71,7 +71,7 @@ enum EOperationType : int {
     OPT_REPAY_CASH_HELD = 25,            ///< credit: pay back cash held
     OPT_WITHOUT_BASE_PRICE_40 = 40,      ///< operations whose task has no base price
     OPT_WITHOUT_BASE_PRICE_41 = 41,
-    OPT_REPAY_LENDING_FEES = 1021,       ///< credit: pay interest and fees of securities lending
+    OPT_REPAY_LENDING_FEES = 1021, ///< credit: pay interest and fees of securities lending
     OPT_WITHOUT_BASE_PRICE_1089 = 1089,
 };
 
