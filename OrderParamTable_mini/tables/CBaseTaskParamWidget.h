@@ -36,7 +36,7 @@ protected:
     void createUi(const ttservice::CCodeOrderParam& param, QString tradeParam, std::string);
 
     /// A click on any button (event 5) expands or collapses the table and answers true; other events go to the base.
-    bool handleEvent(int event, int a, int b, QString text, void* data) override;
+    bool handleEvent(int event, int a, int b, QString text, void* payload) override;
 
 private:
     void createTable(const ttservice::CCodeOrderParam& param, const QString& tradeParam, const std::string& extra,
@@ -44,10 +44,11 @@ private:
     void createExpandButton(ttservice::EOrderType orderType, QBoxLayout* column);
     void createFacts(const ttservice::CCodeOrderParam& param, QBoxLayout* root);
 
+protected:
     WQ::CPushButton* m_expandButton = nullptr;
     CGlobalOrderParamTable* m_table = nullptr;
     bool m_expanded = false;
-    bool m_flag;
+    bool m_flag; ///< kept for the host
     ttservice::ENvTraderType m_traderType;
     bool m_tableFlag;
 };

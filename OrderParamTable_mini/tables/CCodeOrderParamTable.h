@@ -38,7 +38,6 @@ protected:
     void reloadParam() override;
     /// @}
 
-private:
     bool m_changed = false;
     QMap<QString, boost::shared_ptr<ttservice::IData>> m_paramsByCode;
     ttservice::COrderSetting m_defaultSetting;

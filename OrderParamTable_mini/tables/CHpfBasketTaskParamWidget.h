@@ -36,11 +36,12 @@ protected:
     /// The order types that only tasks record, 6 and 7, become the 0 and 1 that they stand for.
     void changeOrderType(ttservice::CCodeOrderParam& param);
 
-    /// Shows the second view or the first one, with its title; nothing while a view, the button or the layout is missing.
+    /// Shows the second view or the first one, with its title; nothing while a view, the button or the layout is
+    /// missing.
     void reloadWidget(bool second);
 
     /// A click on any button (event 5) swaps the views and answers true; other events go to the base.
-    bool handleEvent(int event, int a, int b, QString text, void* data) override;
+    bool handleEvent(int event, int a, int b, QString text, void* payload) override;
 
     QWidget* m_swapButton = nullptr;
     QWidget* m_secondView = nullptr;
