@@ -13,6 +13,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <initializer_list>
 #include <string>
 
 namespace WQ {
@@ -24,8 +25,8 @@ namespace TC {
 struct CAccountData;
 
 /// The parameter table of a credit (margin) repayment: funds account, specified contract and four read-only figures,
-/// titled and measured by the operation type. It reports changes of account and code under the ID 725 with events 73 and
-/// 1083.
+/// titled and measured by the operation type. It reports changes of account and code under the ID 725 with events 73
+/// and 1083.
 ///
 /// In this edition accounts, contracts and available quantities have fixed answers.
 class ORDERPARAMTABLE_EXPORT CCreditParamTable : public WQ::CBaseWidget
@@ -42,7 +43,8 @@ public:
     void setIsFontScale(bool isFontScale);
     void setCompactBrushSourceType(ttservice::ENVCompactBrushSource source);
 
-    /// Rebuilds the account list (empty in this edition) and chooses the remembered account; sends 73 when one is chosen.
+    /// Rebuilds the account list (empty in this edition) and chooses the remembered account; sends 73 when one is
+    /// chosen.
     void refreshAccounts();
 
     /// Chooses the account and sends 73 with its ID, offered or not.
@@ -106,9 +108,8 @@ protected:
     void fixCodeChanged(const QString& code);
     ttservice::ENVCompactType getCurrentCompactType(ttservice::EOperationType operationType);
     double getCurrentNumUnit();
-    boost::shared_ptr<ttservice::CStkCompactsV2> getCompatctByCode(const QString& code,
-                                                                   boost::shared_ptr<CAccountData> account,
-                                                                   std::string compactId);
+    boost::shared_ptr<ttservice::CStkCompactsV2>
+    getCompatctByCode(const QString& code, boost::shared_ptr<CAccountData> account, std::string compactId);
     void getAvailableNum(QString& first, QString& second, const std::string& accountId, const std::string&,
                          const std::string&, boost::shared_ptr<ttservice::CStkCompactsV2> compact, std::string);
     void getComBoDisplayAccounts(QStringList& names, QVector<QVariant>& values);
@@ -116,8 +117,15 @@ protected:
     void setOptBuySecuRepayNum(const std::string&, const std::string&, const std::string&);
 
     void resizeEvent(QResizeEvent* event) override;
-    bool handleEvent(int event, int id, int value, QString text, void* data) override;
+    bool handleEvent(int event, int id, int value, QString text, void* payload) override;
 
+private:
+    void setTexts(std::initializer_list<int> rows, const QString& text);
+    void layRowsOut();
+    bool sendAndStayAlive(int event, int value, void* payload);
+    bool sendAccount(int value, const QVariant& account);
+
+protected:
     int m_operationType = -1;
     WQ::CMultiParamsTable* m_table = nullptr;
     QMap<int, QMap<int, QVariant>> m_savedValues; ///< by operation type, by row
