@@ -1,0 +1,75 @@
+#include "reference/services/FileReport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <algorithm>
+
+namespace reference {
+
+namespace {
+
+constexpr int kMostNotesSaid = 5;
+constexpr qint64 kLargestFile = 256 * 1024 * 1024;
+
+void sayNotes(const QStringList& notes)
+{
+    for (const QString& note : notes.mid(0, kMostNotesSaid))
+        qInfo("%s", qUtf8Printable(note));
+    if (notes.size() > kMostNotesSaid)
+        qInfo("... and %d more", notes.size() - kMostNotesSaid);
+}
+
+} // namespace
+
+void sayReport(const QString& path, const LoadReport& report)
+{
+    static QHash<QString, QString> lastErrors;
+    sayNotes(report.notes);
+    if (report.isGood()) {
+        lastErrors.remove(path);
+        return;
+    }
+    QString& lastError = lastErrors[path];
+    if (lastError == report.error)
+        return;
+    lastError = report.error;
+    qWarning("%s", qUtf8Printable(report.error));
+}
+
+QString placed(const QString& path, int line, const QString& what)
+{
+    const QString file = QDir::toNativeSeparators(path);
+    return line > 0 ? QStringLiteral("%1:%2: %3").arg(file, QString::number(line), what)
+                    : QStringLiteral("%1: %2").arg(file, what);
+}
+
+int lineAt(const QByteArray& bytes, int offset)
+{
+    const auto end = bytes.begin() + std::clamp(offset, 0, bytes.size());
+    return 1 + static_cast<int>(std::count(bytes.begin(), end, '\n'));
+}
+
+QByteArray readWhole(const QString& path, LoadReport& report)
+{
+    QFile file(path);
+    // A folder opens like a file on some systems and reads as an empty one.
+    if (QFileInfo(path).isDir()) {
+        report.error = placed(path, 0, QStringLiteral("is a folder"));
+        return {};
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        report.error = placed(path, 0, QStringLiteral("cannot be read: %1").arg(file.errorString()));
+        return {};
+    }
+    const QByteArray bytes = file.read(kLargestFile + 1);
+    if (file.error() != QFileDevice::NoError)
+        report.error = placed(path, 0, QStringLiteral("cannot be read: %1").arg(file.errorString()));
+    else if (bytes.size() > kLargestFile)
+        report.error = placed(path, 0, QStringLiteral("is too large"));
+    return bytes;
+}
+
+} // namespace reference

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+namespace reference {
+
+/// A look at the lines of an INI file before QSettings reads it: QSettings passes over what it cannot read and knows
+/// no lines.
+class IniLines
+{
+public:
+    explicit IniLines(const QByteArray& bytes);
+
+    /// What is wrong with the first bad line, empty when all are good, and that line, from 1.
+    QString problem() const
+    {
+        return m_problem;
+    }
+
+    int problemLine() const
+    {
+        return m_problemLine;
+    }
+
+    /// The line of "section/key" as QSettings names it; 0 when there is none.
+    int lineOf(const QString& key) const
+    {
+        return m_lines.value(key);
+    }
+
+private:
+    void takeLine(const QByteArray& text, int line);
+    QString takeSection(const QByteArray& text);
+    QString takeEntry(const QByteArray& text, int line);
+
+    QHash<QString, int> m_lines;
+    QString m_section;
+    QString m_problem;
+    int m_problemLine = 0;
+    bool m_isContinued = false;
+};
+
+} // namespace reference
