@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QListView>
+#include <QStringList>
+
+#include <functional>
+
+class QStringListModel;
+
+namespace WQ {
+
+/// A list that opens over the window, from which one entry is chosen by mouse or keyboard. It closes and is gone when
+/// an entry is chosen, on Esc, and when the mouse is pressed elsewhere.
+class PopupList : public QListView
+{
+    Q_OBJECT
+public:
+    using Chosen = std::function<void(int)>;
+
+    /// @p current is the marked entry, -1 for none. @p chosen is called with the entry's position when the list is
+    /// closed already, unless @p owner is gone by then.
+    PopupList(QWidget* owner, const QStringList& entries, int current, Chosen chosen);
+
+    /// Opens below @p anchor, or above it where the screen ends; @p anchor is in global coordinates. Its right edge is
+    /// the anchor's.
+    void open(const QRect& anchor);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QSize neededSize() const;
+    void choose(const QModelIndex& index);
+
+    QStringListModel* const m_model;
+    Chosen m_chosen;
+};
+
+} // namespace WQ
