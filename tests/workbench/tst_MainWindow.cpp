@@ -1,0 +1,190 @@
+#include "workbench/Appearance.h"
+#include "workbench/CreditPanel.h"
+#include "workbench/EventLogModel.h"
+#include "workbench/EventPanel.h"
+#include "workbench/Language.h"
+#include "workbench/MainWindow.h"
+#include "workbench/SetupForm.h"
+#include "workbench/TableBench.h"
+#include "workbench/TaskPanel.h"
+
+#include "reference/services/ServiceControl.h"
+#include "reference/toolkit/Resources.h"
+
+#include <OrderParamTable_mini/credit/CCreditParamTable.h>
+#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
+#include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
+
+#include <QCheckBox>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QSettings>
+#include <QtTest>
+
+using namespace workbench;
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void itStartsWithATable();
+    void aChangeOfTheFormRebuildsTheTable();
+    void aModuleIsSwitchedOnByItsTick();
+    void eventsOfEveryPanelArrive();
+    void themeScaleAndLanguageChangeAtOnce();
+    void choicesAreBackAfterARestart();
+    void aBrokenStateFileIsNoObstacle();
+    void aTaskOpensItsDialog();
+    void itIsUsableAtASmallSize();
+
+private:
+    QTemporaryDir m_settings;
+};
+
+void tst_MainWindow::initTestCase()
+{
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
+    dressApplication();
+}
+
+void tst_MainWindow::init()
+{
+    QFile::remove(m_settings.filePath(QStringLiteral("orderparam/workbench.ini")));
+    reference::resetServices();
+    setTheme(QStringLiteral("dark"));
+    setScale(1.0);
+    setLanguage(QStringLiteral("en"));
+}
+
+void tst_MainWindow::itStartsWithATable()
+{
+    MainWindow window({});
+    QVERIFY(window.bench()->table());
+    QCOMPARE(int(window.bench()->table()->getId()), 5);
+}
+
+void tst_MainWindow::aChangeOfTheFormRebuildsTheTable()
+{
+    MainWindow window({});
+    const QPointer<TC::COrderParamBaseTable> old = window.bench()->table();
+    TableSetup setup;
+    setup.identity = 31;
+    setup.brokerType = 6;
+    window.form()->setSetup(setup);
+    QVERIFY(old);
+    for (auto* check : window.form()->findChildren<QCheckBox*>())
+        if (check->isEnabled())
+            check->click();
+    QVERIFY(!old);
+    QCOMPARE(int(window.bench()->table()->getId()), 31);
+}
+
+void tst_MainWindow::aModuleIsSwitchedOnByItsTick()
+{
+    MainWindow window({});
+    QVERIFY(reference::modules().isEmpty());
+    const QPointer<TC::COrderParamBaseTable> old = window.bench()->table();
+    window.form()->findChild<QListWidget*>()->item(0)->setCheckState(Qt::Checked);
+    QCOMPARE(reference::modules(), QSet<QString>{QStringLiteral("mdl_order/mdl_order_algorithm3")});
+    QVERIFY(!old);
+}
+
+void tst_MainWindow::eventsOfEveryPanelArrive()
+{
+    MainWindow window({});
+    EventLogModel* log = window.events()->model();
+    log->clear();
+    window.bench()->table()->setFixedPrice(10.0);
+    const int fromTable = log->rowCount();
+    QVERIFY(fromTable > 0);
+    window.credit()->setOperation(24);
+    QVERIFY(log->rowCount() > fromTable);
+}
+
+void tst_MainWindow::themeScaleAndLanguageChangeAtOnce()
+{
+    MainWindow window({});
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const int width = window.bench()->table()->width();
+    const QColor ground = qApp->palette().color(QPalette::Window);
+    window.chooseScale(2.0);
+    QCOMPARE(window.bench()->table()->width(), 2 * width);
+    QCOMPARE(window.credit()->table()->width(), 2 * width);
+    window.chooseTheme(QStringLiteral("light"));
+    QVERIFY(qApp->palette().color(QPalette::Window) != ground);
+    window.chooseLanguage(QStringLiteral("zh_CN"));
+    QTRY_COMPARE(window.windowTitle(), QStringLiteral("下单参数工作台"));
+    QCOMPARE(window.menuBar()->actions().first()->text(), QStringLiteral("表(&T)"));
+}
+
+void tst_MainWindow::choicesAreBackAfterARestart()
+{
+    TableSetup chosen;
+    chosen.identity = 43;
+    chosen.brokerType = 6;
+    chosen.tableClass = TableClass::Code;
+    {
+        MainWindow window({});
+        window.form()->setSetup(chosen);
+        window.chooseTheme(QStringLiteral("light"));
+        window.chooseScale(1.25);
+        window.chooseLanguage(QStringLiteral("zh_CN"));
+        window.close();
+    }
+    QCOMPARE(savedLook().theme, QStringLiteral("light"));
+    QCOMPARE(savedLook().scale, 1.25);
+    QCOMPARE(savedLook().language, QStringLiteral("zh_CN"));
+    MainWindow window({});
+    window.loadState();
+    QCOMPARE(int(window.bench()->table()->getId()), 43);
+    QCOMPARE(window.form()->setup().brokerType, 6);
+    QVERIFY(window.form()->setup().tableClass == TableClass::Code);
+}
+
+void tst_MainWindow::aBrokenStateFileIsNoObstacle()
+{
+    QVERIFY(QDir(m_settings.path()).mkpath(QStringLiteral("orderparam")));
+    QFile file(m_settings.filePath(QStringLiteral("orderparam/workbench.ini")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(
+        "[table]\nclass=99\nidentity=abc\nbrokerType=6\n[window]\nlayout=xyz\ngeometry=@Invalid()\n[look]\nscale=nan");
+    file.close();
+    MainWindow window({});
+    window.loadState();
+    QCOMPARE(int(window.bench()->table()->getId()), 5);
+    QCOMPARE(window.form()->setup().brokerType, 6);
+}
+
+void tst_MainWindow::aTaskOpensItsDialog()
+{
+    HostData data;
+    data.tasks.resize(1);
+    data.tasks.front().code = "600000";
+    MainWindow window(data);
+    auto* tasks = window.findChild<TaskPanel*>();
+    tasks->openTask(0);
+    const auto dialogs = tasks->findChildren<TC::CBaseTaskParamWidget*>();
+    QCOMPARE(dialogs.size(), 1);
+    const QPointer<QWidget> dialog = dialogs.first();
+    QTest::keyClick(dialog.data(), Qt::Key_Escape);
+    QTRY_VERIFY(!dialog);
+    tasks->openTask(99);
+    QVERIFY(tasks->findChildren<TC::CBaseTaskParamWidget*>().isEmpty());
+}
+
+void tst_MainWindow::itIsUsableAtASmallSize()
+{
+    MainWindow window({});
+    window.resize(1024, 700);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.size(), QSize(1024, 700));
+    const QRect panel(window.bench()->mapTo(&window, QPoint()), window.bench()->size());
+    QVERIFY(window.rect().contains(panel));
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"

@@ -1,0 +1,171 @@
+#include "workbench/CreditPanel.h"
+
+#include "workbench/LanguageTexts.h"
+#include "workbench/NumberCombo.h"
+
+#include <OrderParamTable_mini/credit/CCreditParamTable.h>
+#include <WQ/CMultiParamsTable.h>
+#include <WQ/CUiResource.h>
+
+#include <boost/make_shared.hpp>
+
+#include <QCoreApplication>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+namespace {
+
+constexpr int kAccountRow = 726;
+
+/// A contract of this host.
+struct Contract : ttservice::IData
+{
+    std::string getKey() const override
+    {
+        return "C-2024-0001";
+    }
+};
+
+boost::shared_ptr<ttservice::CStkCompactsV2> sampleContract()
+{
+    auto contract = boost::make_shared<ttservice::CStkCompactsV2>();
+    contract->unrepaidVolume = 3000;
+    contract->unrepaidFees = 1234.56;
+    contract->data = boost::make_shared<Contract>();
+    return contract;
+}
+
+} // namespace
+
+QString creditParam(int operation)
+{
+    return QStringLiteral("%1+%1-726=88005678-727=600000-728=3000-729=1200-730=250000-731=1200").arg(operation);
+}
+
+CreditPanel::CreditPanel(QWidget* parent)
+    : PanelHost(parent)
+    , m_texts(new LanguageTexts(this))
+    , m_table(new TC::CCreditParamTable(this))
+    , m_operation(new NumberCombo(creditOperations(), ttservice::OPT_REPAY_SECURITIES_BY_BUYING))
+    , m_code(new QLineEdit(QStringLiteral("600000")))
+    , m_param(new QLineEdit(creditParam(ttservice::OPT_REPAY_SECURITIES_BY_BUYING)))
+    , m_answers(new QLabel)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    auto* form = new QFormLayout;
+    createForm(form);
+    layout->addLayout(form);
+    layout->addWidget(m_table, 1, Qt::AlignLeft | Qt::AlignTop);
+    m_answers->setWordWrap(true);
+    m_answers->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    layout->addWidget(m_answers);
+    m_texts->keep([this] { showAnswers(); });
+    fitTable();
+}
+
+QPushButton* CreditPanel::addEntry(QFormLayout* form, QLineEdit* edit, const char* label, const char* button)
+{
+    auto* row = new QHBoxLayout;
+    auto* title = new QLabel;
+    auto* push = new QPushButton;
+    title->setBuddy(edit);
+    edit->setCursorPosition(0);
+    row->addWidget(edit, 1);
+    row->addWidget(push);
+    form->addRow(title, row);
+    m_texts->keep([=] {
+        title->setText(translated(label));
+        push->setText(translated(button));
+    });
+    return push;
+}
+
+void CreditPanel::createForm(QFormLayout* form)
+{
+    auto* title = new QLabel;
+    auto* contract = new QPushButton;
+    title->setBuddy(m_operation);
+    form->addRow(title, m_operation);
+    m_texts->keep([this, title, contract] {
+        title->setText(translated(QT_TRANSLATE_NOOP("workbench", "Operation")));
+        contract->setText(translated(QT_TRANSLATE_NOOP("workbench", "Choose a contract")));
+        m_operation->retranslate();
+    });
+    QPushButton* enter =
+        addEntry(form, m_code, QT_TRANSLATE_NOOP("workbench", "Code"), QT_TRANSLATE_NOOP("workbench", "Enter"));
+    QPushButton* load = addEntry(form, m_param, QT_TRANSLATE_NOOP("workbench", "Parameter string"),
+                                 QT_TRANSLATE_NOOP("workbench", "Load"));
+    form->addRow(contract);
+    connect(m_operation, &NumberCombo::valueChanged, this, &CreditPanel::setOperation);
+    connect(enter, &QPushButton::clicked, this, [this] {
+        m_table->setStockCode(m_code->text(), std::string(), false);
+        showAnswers();
+    });
+    connect(load, &QPushButton::clicked, this, [this] { applyParam(m_param->text()); });
+    connect(contract, &QPushButton::clicked, this, &CreditPanel::chooseContract);
+}
+
+void CreditPanel::setAccounts(const QStringList& accounts)
+{
+    auto* cellTable = m_table->findChild<WQ::CMultiParamsTable*>();
+    if (!cellTable)
+        return;
+    QVector<QVariant> values;
+    for (const QString& account : accounts)
+        values << account;
+    cellTable->resetComboData(kAccountRow, accounts, values, accounts.isEmpty() ? -1 : 0);
+    showAnswers();
+}
+
+void CreditPanel::setOperation(int operation)
+{
+    m_operation->setValue(operation);
+    m_param->setText(creditParam(operation));
+    m_param->setCursorPosition(0);
+    applyParam(m_param->text());
+}
+
+void CreditPanel::applyParam(const QString& text)
+{
+    m_table->setParam(text);
+    fitTable();
+    showAnswers();
+}
+
+void CreditPanel::chooseContract()
+{
+    const auto contract = sampleContract();
+    m_table->setStkCompacts(contract, QString::number(contract->unrepaidVolume), false);
+    showAnswers();
+}
+
+void CreditPanel::showAnswers()
+{
+    m_answers->setText(translated(QT_TRANSLATE_NOOP("workbench", "Account %1 · code %2 · %3"))
+                           .arg(m_table->getSelectAccount(), m_table->getCurrentCode(), m_table->param()));
+}
+
+void CreditPanel::fitTable()
+{
+    const int width = WQ::CUiResource::instance()->getSize(QStringLiteral("tc_siz_operation_panel_param_table_width"));
+    m_table->setFixedSize(width, m_table->realHeight());
+}
+
+TC::CCreditParamTable* CreditPanel::table() const
+{
+    return m_table;
+}
+
+void CreditPanel::scaleTable()
+{
+    m_table->handleScaleChanged();
+    fitTable();
+}
+
+} // namespace workbench

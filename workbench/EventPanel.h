@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QSortFilterProxyModel;
+class QTableView;
+
+namespace workbench {
+
+class EventLogModel;
+class LanguageTexts;
+
+/// The list of the events that arrived, with filter, pause, clear and copy.
+class EventPanel : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit EventPanel(QWidget* parent = nullptr);
+
+    /// Takes an event over, unless the list is paused. Safe while the sender is being deleted.
+    void add(int event, int a, int b, const QString& text, const void* payload);
+
+    EventLogModel* model() const;
+
+    void clear();
+
+    /// Puts the selected rows, or all shown ones, on the clipboard as tab-separated text.
+    void copy();
+
+    void focusFilter();
+
+private:
+    void createView();
+    void createBar();
+    void showCount();
+
+    EventLogModel* m_model;
+    QSortFilterProxyModel* m_filtered;
+    QTableView* m_view;
+    QLineEdit* m_filter;
+    QCheckBox* m_pause;
+    QLabel* m_count;
+    LanguageTexts* m_texts;
+};
+
+} // namespace workbench

@@ -1,0 +1,189 @@
+#include "workbench/MainWindow.h"
+
+#include "workbench/Appearance.h"
+#include "workbench/CreditPanel.h"
+#include "workbench/EventPanel.h"
+#include "workbench/Language.h"
+#include "workbench/LanguageTexts.h"
+#include "workbench/OrderControls.h"
+#include "workbench/SetupForm.h"
+#include "workbench/TableBench.h"
+#include "workbench/TaskPanel.h"
+#include "workbench/Vocabulary.h"
+
+#include "reference/services/ServiceControl.h"
+#include "reference/toolkit/Resources.h"
+
+#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
+
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QSet>
+#include <QStatusBar>
+
+namespace workbench {
+
+namespace {
+
+constexpr QSize kFirstSize(1180, 760);
+
+/// The accounts that the credit table may offer: its host fills the combo.
+QStringList creditAccounts()
+{
+    return {QStringLiteral("88005678"), QStringLiteral("88001234")};
+}
+
+QScrollArea* scrolled(QWidget* content)
+{
+    auto* area = new QScrollArea;
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    content->setMinimumWidth(content->minimumSizeHint().width());
+    return area;
+}
+
+} // namespace
+
+MainWindow::MainWindow(HostData hostData, QWidget* parent)
+    : QMainWindow(parent)
+    , m_texts(new LanguageTexts(this))
+    , m_bench(new TableBench)
+    , m_form(new SetupForm)
+    , m_controls(new OrderControls)
+    , m_events(new EventPanel)
+    , m_tasks(new TaskPanel)
+    , m_credit(new CreditPanel)
+{
+    setObjectName(QStringLiteral("workbench"));
+    setDockNestingEnabled(true);
+    createCentre();
+    createDocks();
+    createMenus();
+    for (PanelHost* host :
+         {static_cast<PanelHost*>(m_bench), static_cast<PanelHost*>(m_tasks), static_cast<PanelHost*>(m_credit)})
+        listenTo(host);
+    m_texts->keep([this] { setWindowTitle(translated(QT_TRANSLATE_NOOP("workbench", "Order parameter workbench"))); });
+
+    m_tasks->setTasks(std::move(hostData.tasks));
+    m_credit->setAccounts(creditAccounts());
+    m_form->setModules(reference::modules().values());
+    rebuildTable();
+    resize(kFirstSize * WQ::resources::scale());
+    showProblems(hostData.problems);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::createCentre()
+{
+    auto* centre = new QWidget;
+    auto* layout = new QHBoxLayout(centre);
+    layout->setContentsMargins(16, 12, 16, 12);
+    layout->addStretch(1);
+    layout->addWidget(m_bench);
+    layout->addStretch(1);
+    setCentralWidget(centre);
+    connect(m_form, &SetupForm::setupChanged, this, &MainWindow::rebuildTable);
+    connect(m_form, &SetupForm::modulesChanged, this, [this](const QStringList& modules) {
+        reference::setModules(QSet<QString>(modules.begin(), modules.end()));
+        rebuildTable();
+    });
+    connect(m_bench, &TableBench::rebuilt, m_controls, &OrderControls::setTable);
+}
+
+void MainWindow::createDocks()
+{
+    const auto setup =
+        addDock("setupDock", QT_TRANSLATE_NOOP("workbench", "Setup"), scrolled(m_form), Qt::LeftDockWidgetArea);
+    const auto controls = addDock("controlsDock", QT_TRANSLATE_NOOP("workbench", "Host calls"), scrolled(m_controls),
+                                  Qt::RightDockWidgetArea);
+    const auto tasks = addDock("tasksDock", QT_TRANSLATE_NOOP("workbench", "Tasks"), m_tasks, Qt::RightDockWidgetArea);
+    const auto credit =
+        addDock("creditDock", QT_TRANSLATE_NOOP("workbench", "Credit"), scrolled(m_credit), Qt::RightDockWidgetArea);
+    const auto events =
+        addDock("eventsDock", QT_TRANSLATE_NOOP("workbench", "Events"), m_events, Qt::RightDockWidgetArea);
+    splitDockWidget(controls, events, Qt::Vertical);
+    tabifyDockWidget(controls, tasks);
+    tabifyDockWidget(controls, credit);
+    controls->raise();
+    resizeDocks({setup, controls}, {280, 470}, Qt::Horizontal);
+    resizeDocks({controls, events}, {360, 360}, Qt::Vertical);
+}
+
+QDockWidget* MainWindow::addDock(const char* name, const char* title, QWidget* content, Qt::DockWidgetArea area)
+{
+    auto* dock = new QDockWidget(this);
+    dock->setObjectName(QLatin1String(name));
+    dock->setWidget(content);
+    addDockWidget(area, dock);
+    m_docks << dock;
+    m_texts->keep([dock, title] { dock->setWindowTitle(translated(title)); });
+    return dock;
+}
+
+void MainWindow::listenTo(PanelHost* host)
+{
+    connect(host, &PanelHost::eventArrived, this, &MainWindow::onEvent);
+}
+
+void MainWindow::onEvent(int event, int a, int b, const QString& text, void* payload)
+{
+    m_events->add(event, a, b, text, payload);
+    m_controls->refresh();
+}
+
+void MainWindow::rebuildTable()
+{
+    m_bench->rebuild(m_form->setup(), m_controls->drive());
+}
+
+void MainWindow::chooseTheme(const QString& name)
+{
+    setTheme(name);
+    tickChoices();
+}
+
+void MainWindow::chooseScale(double scale)
+{
+    setScale(scale);
+    m_bench->scaleTable();
+    m_credit->scaleTable();
+}
+
+void MainWindow::chooseLanguage(const QString& language)
+{
+    setLanguage(language);
+    tickChoices();
+}
+
+void MainWindow::showProblems(const QStringList& problems)
+{
+    if (!problems.isEmpty())
+        statusBar()->showMessage(problems.join(QStringLiteral("; ")));
+}
+
+TableBench* MainWindow::bench() const
+{
+    return m_bench;
+}
+
+EventPanel* MainWindow::events() const
+{
+    return m_events;
+}
+
+SetupForm* MainWindow::form() const
+{
+    return m_form;
+}
+
+CreditPanel* MainWindow::credit() const
+{
+    return m_credit;
+}
+
+} // namespace workbench

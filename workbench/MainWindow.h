@@ -1,0 +1,91 @@
+#pragma once
+
+#include "workbench/HostData.h"
+
+#include <QMainWindow>
+
+class QAction;
+class QDockWidget;
+class QMenu;
+
+namespace workbench {
+
+class CreditPanel;
+class EventPanel;
+class LanguageTexts;
+class OrderControls;
+class PanelHost;
+class SetupForm;
+class TableBench;
+class TaskPanel;
+
+/// Theme, UI scale and language of the last run; empty, or 1.0, when there was none.
+struct SavedLook
+{
+    QString theme;
+    double scale;
+    QString language;
+};
+SavedLook savedLook();
+
+/// The workbench: the order panel in the middle, what it is made of at its left, what a host does to it and what it
+/// answers at its right.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    explicit MainWindow(HostData hostData, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Makes the order panel anew from the form. Safe from inside an event of the table that it replaces.
+    void rebuildTable();
+
+    /// Take effect at once, for every widget.
+    void chooseTheme(const QString& name);
+    void chooseScale(double scale);
+    void chooseLanguage(const QString& language);
+
+    /// Window state and choices of the last run; without one the window keeps its defaults.
+    void loadState();
+    void storeState() const;
+
+    TableBench* bench() const;
+    EventPanel* events() const;
+    SetupForm* form() const;
+    CreditPanel* credit() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void createCentre();
+    void createDocks();
+    QDockWidget* addDock(const char* name, const char* title, QWidget* content, Qt::DockWidgetArea area);
+    void listenTo(PanelHost* host);
+    void onEvent(int event, int a, int b, const QString& text, void* payload);
+
+    QMenu* addMenu(const char* title);
+    QAction* addAction(QMenu* menu, const char* title, const QKeySequence& keys);
+    void createMenus();
+    void createTableMenu();
+    void createViewMenu();
+    void createThemeMenu(QMenu* view);
+    void createScaleActions(QMenu* view);
+    void createLanguageMenu(QMenu* view);
+    void createEventMenu();
+    void createHelpMenu();
+    void tickChoices();
+    void showProblems(const QStringList& problems);
+
+    LanguageTexts* m_texts;
+    TableBench* m_bench;
+    SetupForm* m_form;
+    OrderControls* m_controls;
+    EventPanel* m_events;
+    TaskPanel* m_tasks;
+    CreditPanel* m_credit;
+    QList<QDockWidget*> m_docks;
+    QList<QAction*> m_choiceActions; ///< themes and languages, ticked as they are in force
+};
+
+} // namespace workbench

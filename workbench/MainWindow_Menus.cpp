@@ -1,0 +1,189 @@
+#include "workbench/MainWindow.h"
+
+#include "workbench/EventPanel.h"
+#include "workbench/Language.h"
+#include "workbench/LanguageTexts.h"
+#include "workbench/TableBench.h"
+#include "workbench/Vocabulary.h"
+
+#include "reference/toolkit/Resources.h"
+
+#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
+
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QMessageBox>
+
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+constexpr double kScaleStep = 0.25;
+
+struct ThemeRow
+{
+    const char* theme;
+    const char* name;
+};
+
+constexpr std::array kThemeNames = {
+    ThemeRow{"dark", QT_TRANSLATE_NOOP("workbench", "Dark")},
+    ThemeRow{"light", QT_TRANSLATE_NOOP("workbench", "Light")},
+};
+
+QString themeName(const QString& theme)
+{
+    for (const ThemeRow& row : kThemeNames)
+        if (theme == QLatin1String(row.theme))
+            return translated(row.name);
+    return theme;
+}
+
+} // namespace
+
+QMenu* MainWindow::addMenu(const char* title)
+{
+    QMenu* menu = menuBar()->addMenu(QString());
+    m_texts->keep([menu, title] { menu->setTitle(translated(title)); });
+    return menu;
+}
+
+QAction* MainWindow::addAction(QMenu* menu, const char* title, const QKeySequence& keys)
+{
+    QAction* action = menu->addAction(QString());
+    action->setShortcut(keys);
+    m_texts->keep([action, title] { action->setText(translated(title)); });
+    return action;
+}
+
+void MainWindow::createMenus()
+{
+    createTableMenu();
+    createViewMenu();
+    createEventMenu();
+    createHelpMenu();
+    tickChoices();
+}
+
+void MainWindow::createTableMenu()
+{
+    QMenu* menu = addMenu(QT_TRANSLATE_NOOP("workbench", "&Table"));
+    QAction* rebuild = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Rebuild"), Qt::Key_F5);
+    QAction* focus = addAction(menu, QT_TRANSLATE_NOOP("workbench", "Go to the order &panel"), Qt::Key_F6);
+    menu->addSeparator();
+    QAction* quit = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Quit"), QKeySequence(Qt::CTRL + Qt::Key_Q));
+    connect(rebuild, &QAction::triggered, this, &MainWindow::rebuildTable);
+    connect(focus, &QAction::triggered, this, [this] {
+        if (TC::COrderParamBaseTable* table = m_bench->table())
+            table->setFocus(Qt::ShortcutFocusReason);
+    });
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void MainWindow::createViewMenu()
+{
+    QMenu* menu = addMenu(QT_TRANSLATE_NOOP("workbench", "&View"));
+    int number = Qt::Key_1;
+    for (QDockWidget* dock : qAsConst(m_docks)) {
+        menu->addAction(dock->toggleViewAction());
+        auto* raise = new QAction(dock);
+        raise->setShortcut(QKeySequence(Qt::CTRL + number++));
+        dock->toggleViewAction()->setShortcut(QKeySequence());
+        connect(raise, &QAction::triggered, dock, [dock] {
+            dock->show();
+            dock->raise();
+            dock->widget()->setFocus(Qt::ShortcutFocusReason);
+        });
+        QWidget::addAction(raise);
+    }
+    menu->addSeparator();
+    createThemeMenu(menu);
+    createScaleActions(menu);
+    createLanguageMenu(menu);
+}
+
+void MainWindow::createThemeMenu(QMenu* view)
+{
+    QMenu* menu = view->addMenu(QString());
+    m_texts->keep([menu] { menu->setTitle(translated(QT_TRANSLATE_NOOP("workbench", "&Theme"))); });
+    auto* group = new QActionGroup(menu);
+    const QStringList themes = WQ::resources::themes();
+    for (const QString& theme : themes) {
+        QAction* action = menu->addAction(QString());
+        action->setCheckable(true);
+        action->setActionGroup(group);
+        action->setProperty("theme", theme);
+        m_texts->keep([action, theme] { action->setText(themeName(theme)); });
+        connect(action, &QAction::triggered, this, [this, theme] { chooseTheme(theme); });
+        m_choiceActions << action;
+    }
+}
+
+void MainWindow::createScaleActions(QMenu* view)
+{
+    QAction* larger = addAction(view, QT_TRANSLATE_NOOP("workbench", "&Larger"), QKeySequence::ZoomIn);
+    QAction* smaller = addAction(view, QT_TRANSLATE_NOOP("workbench", "&Smaller"), QKeySequence::ZoomOut);
+    QAction* normal =
+        addAction(view, QT_TRANSLATE_NOOP("workbench", "&Normal size"), QKeySequence(Qt::CTRL + Qt::Key_0));
+    connect(larger, &QAction::triggered, this, [this] { chooseScale(WQ::resources::scale() + kScaleStep); });
+    connect(smaller, &QAction::triggered, this, [this] { chooseScale(WQ::resources::scale() - kScaleStep); });
+    connect(normal, &QAction::triggered, this, [this] { chooseScale(1.0); });
+}
+
+void MainWindow::createLanguageMenu(QMenu* view)
+{
+    QMenu* menu = view->addMenu(QString());
+    m_texts->keep([menu] { menu->setTitle(translated(QT_TRANSLATE_NOOP("workbench", "Lan&guage"))); });
+    auto* group = new QActionGroup(menu);
+    const QStringList all = languages();
+    for (const QString& name : all) {
+        QAction* action = menu->addAction(languageName(name));
+        action->setCheckable(true);
+        action->setActionGroup(group);
+        action->setProperty("language", name);
+        connect(action, &QAction::triggered, this, [this, name] { chooseLanguage(name); });
+        m_choiceActions << action;
+    }
+}
+
+void MainWindow::createEventMenu()
+{
+    QMenu* menu = addMenu(QT_TRANSLATE_NOOP("workbench", "&Events"));
+    QAction* filter = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Filter"), QKeySequence::Find);
+    QAction* copy =
+        addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Copy"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
+    QAction* clear = addAction(menu, QT_TRANSLATE_NOOP("workbench", "C&lear"), QKeySequence(Qt::CTRL + Qt::Key_L));
+    connect(filter, &QAction::triggered, m_events, &EventPanel::focusFilter);
+    connect(copy, &QAction::triggered, m_events, &EventPanel::copy);
+    connect(clear, &QAction::triggered, m_events, &EventPanel::clear);
+}
+
+void MainWindow::createHelpMenu()
+{
+    QMenu* menu = addMenu(QT_TRANSLATE_NOOP("workbench", "&Help"));
+    QAction* about = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&About"), Qt::Key_F1);
+    connect(about, &QAction::triggered, this, [this] {
+        const QString version = QCoreApplication::applicationVersion();
+        QMessageBox::about(
+            this, windowTitle(),
+            translated(
+                QT_TRANSLATE_NOOP("workbench",
+                                  "Order parameter workbench %1\n\nA host for every table and dialog of the library."))
+                .arg(version));
+    });
+}
+
+void MainWindow::tickChoices()
+{
+    for (QAction* action : qAsConst(m_choiceActions)) {
+        const QString theme = action->property("theme").toString();
+        const QString name = action->property("language").toString();
+        action->setChecked(theme.isEmpty() ? name == language() : theme == WQ::resources::theme());
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,184 @@
+#include "workbench/OrderControls.h"
+
+#include "workbench/FlagsEditor.h"
+#include "workbench/LanguageTexts.h"
+#include "workbench/NumberCombo.h"
+
+#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+namespace workbench {
+
+namespace {
+
+constexpr double kLargestPrice = 1e6;
+constexpr int kPriceDecimals = 3;
+
+QString answersOf(const TC::COrderParamBaseTable& table, const QString& priceName)
+{
+    return translated(QT_TRANSLATE_NOOP("workbench", "Order type %1 · operation %2 · price type %3 %4 · code %5"))
+        .arg(table.orderType())
+        .arg(table.getOperationType())
+        .arg(table.priceType())
+        .arg(priceName, table.getStockCode());
+}
+
+} // namespace
+
+OrderControls::OrderControls(QWidget* parent)
+    : QWidget(parent)
+    , m_texts(new LanguageTexts(this))
+    , m_form(new QFormLayout(this))
+    , m_orderType(addNumber(QT_TRANSLATE_NOOP("workbench", "&Order type"), new NumberCombo(orderTypes(), 0)))
+    , m_operation(addNumber(QT_TRANSLATE_NOOP("workbench", "O&peration"), new NumberCombo(operationTypes(), -1)))
+    , m_expanded(addCheck(QT_TRANSLATE_NOOP("workbench", "E&xpanded"), false))
+    , m_enabled(addCheck(QT_TRANSLATE_NOOP("workbench", "Cells e&nabled"), true))
+    , m_code(new QLineEdit)
+    , m_price(new QDoubleSpinBox)
+    , m_flags(new FlagsEditor)
+    , m_answers(new QLabel)
+{
+    m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    addCode();
+    addPrice();
+    auto* title = new QLabel;
+    title->setBuddy(m_flags);
+    m_texts->keep(
+        [title] { title->setText(translated(QT_TRANSLATE_NOOP("workbench", "Cells that the host a&llows"))); });
+    m_form->addRow(title);
+    m_form->addRow(m_flags);
+    addAnswers();
+    connectControls();
+}
+
+NumberCombo* OrderControls::addNumber(const char* label, NumberCombo* combo)
+{
+    auto* title = new QLabel;
+    title->setBuddy(combo);
+    m_form->addRow(title, combo);
+    m_texts->keep([label, title, combo] {
+        title->setText(translated(label));
+        combo->retranslate();
+    });
+    return combo;
+}
+
+QCheckBox* OrderControls::addCheck(const char* label, bool checked)
+{
+    auto* check = new QCheckBox;
+    check->setChecked(checked);
+    m_form->addRow(check);
+    m_texts->keep([label, check] { check->setText(translated(label)); });
+    return check;
+}
+
+void OrderControls::addCode()
+{
+    auto* title = new QLabel;
+    title->setBuddy(m_code);
+    m_form->addRow(title, m_code);
+    m_texts->keep([title] { title->setText(translated(QT_TRANSLATE_NOOP("workbench", "Instrument &code"))); });
+    connect(m_code, &QLineEdit::editingFinished, this, [this] {
+        if (m_code->text() == m_drive.code)
+            return;
+        m_drive.code = m_code->text();
+        if (m_table)
+            m_table->setStockCode(m_drive.code);
+        refresh();
+    });
+}
+
+void OrderControls::addPrice()
+{
+    auto* row = new QHBoxLayout;
+    auto* fix = new QPushButton;
+    auto* title = new QLabel;
+    m_price->setRange(0.0, kLargestPrice);
+    m_price->setDecimals(kPriceDecimals);
+    m_price->setValue(10.0);
+    title->setBuddy(m_price);
+    row->addWidget(m_price, 1);
+    row->addWidget(fix);
+    m_form->addRow(title, row);
+    m_texts->keep([title, fix] {
+        title->setText(translated(QT_TRANSLATE_NOOP("workbench", "&Specified price")));
+        fix->setText(translated(QT_TRANSLATE_NOOP("workbench", "Set")));
+    });
+    connect(fix, &QPushButton::clicked, this, [this] {
+        if (m_table)
+            m_table->setFixedPrice(m_price->value());
+        refresh();
+    });
+}
+
+void OrderControls::addAnswers()
+{
+    m_answers->setWordWrap(true);
+    m_answers->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_form->addRow(m_answers);
+    m_texts->keep([this] { refresh(); });
+}
+
+void OrderControls::connectControls()
+{
+    const auto apply = [this](auto call) {
+        if (m_table)
+            call(*m_table);
+        refresh();
+    };
+    connect(m_orderType, &NumberCombo::valueChanged, this, [this, apply](int type) {
+        m_drive.orderType = type;
+        apply([type](auto& table) { table.setOrderType(ttservice::EOrderType(type)); });
+    });
+    connect(m_operation, &NumberCombo::valueChanged, this, [this, apply](int operation) {
+        m_drive.operationType = operation;
+        apply([operation](auto& table) { table.setOperationType(ttservice::EOperationType(operation)); });
+    });
+    connect(m_flags, &FlagsEditor::flagsChanged, this, [this, apply](int flags) {
+        m_drive.flags = flags;
+        apply([flags](auto& table) { table.setFlag(TC::OperationCellFlags(flags)); });
+    });
+    connect(m_expanded, &QCheckBox::toggled, this, [this, apply](bool expanded) {
+        m_drive.expanded = expanded;
+        apply([expanded](auto& table) { table.setExpandItemsHidden(!expanded); });
+    });
+    connect(m_enabled, &QCheckBox::toggled, this, [this, apply](bool enabled) {
+        m_drive.enabled = enabled;
+        apply([enabled](auto& table) { table.setAllItemEnable(enabled); });
+    });
+}
+
+void OrderControls::setTable(TC::COrderParamBaseTable* table)
+{
+    m_table = table;
+    refresh();
+}
+
+TableDrive OrderControls::drive() const
+{
+    return m_drive;
+}
+
+void OrderControls::refresh()
+{
+    if (!m_table) {
+        m_answers->clear();
+        return;
+    }
+    m_orderType->setValue(m_table->orderType());
+    m_operation->setValue(m_table->getOperationType());
+    const QSignalBlocker quiet(m_expanded);
+    m_expanded->setChecked(m_table->isExpand());
+    m_answers->setText(answersOf(*m_table, m_table->getCurrentPriceTypeName()));
+}
+
+} // namespace workbench

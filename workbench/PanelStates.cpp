@@ -1,0 +1,121 @@
+#include "workbench/PanelStates.h"
+
+#include "workbench/Snapshot.h"
+
+#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
+#include <WQ/CMultiParamsTable.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace workbench {
+
+namespace {
+
+void pressKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {})
+{
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(widget, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
+    QCoreApplication::sendEvent(widget, &release);
+    settle();
+}
+
+void click(QWidget* widget, QPoint position)
+{
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, position, widget->mapToGlobal(position), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &event);
+    }
+    settle();
+}
+
+/// The value cell of the row with that label; invalid when it is not shown.
+QModelIndex valueOf(const WQ::CMultiParamsTable& cells, const QString& label)
+{
+    const QAbstractItemModel* model = cells.model();
+    for (int row = 0; row < model->rowCount(); ++row)
+        if (model->index(row, 0).data().toString() == label && !cells.isRowHidden(row))
+            return model->index(row, 1);
+    return {};
+}
+
+void focusCell(WQ::CMultiParamsTable& cells, const QString& label)
+{
+    cells.setFocus(Qt::TabFocusReason);
+    cells.setCurrentIndex(valueOf(cells, label));
+    settle();
+}
+
+QWidget* focused(WQ::CMultiParamsTable& cells)
+{
+    QWidget* focus = QApplication::focusWidget();
+    return focus && cells.isAncestorOf(focus) ? focus : &cells;
+}
+
+void typeInto(WQ::CMultiParamsTable& cells, const QString& text)
+{
+    for (const QChar character : text)
+        pressKey(focused(cells), 0, Qt::NoModifier, character);
+}
+
+/// The unit's drop-down stands at the right end of the row.
+void openUnits(WQ::CMultiParamsTable& cells, const QString& label)
+{
+    focusCell(cells, label);
+    pressKey(&cells, Qt::Key_Down, Qt::AltModifier);
+}
+
+void openFilter(WQ::CMultiParamsTable& cells)
+{
+    const auto buttons = cells.findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons)
+        if (button->isVisible())
+            return click(button, button->rect().center());
+}
+
+void scrollDown(TC::COrderParamBaseTable& table)
+{
+    if (auto* area = table.findChild<QScrollArea*>())
+        area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
+}
+
+} // namespace
+
+void bringInto(TC::COrderParamBaseTable& table, PanelState state)
+{
+    WQ::CMultiParamsTable& cells = *table.getMultiParamsTable();
+    switch (state) {
+    case PanelState::AtRest:
+    case PanelState::Disabled:
+        return;
+    case PanelState::RowFocused:
+        return focusCell(cells, QStringLiteral("单笔超价"));
+    case PanelState::EditorOpen:
+        focusCell(cells, QStringLiteral("单笔超价"));
+        return pressKey(&cells, Qt::Key_F2);
+    case PanelState::WrongInput:
+        focusCell(cells, QStringLiteral("单笔最大量"));
+        pressKey(&cells, Qt::Key_F2);
+        typeInto(cells, QStringLiteral("500000000"));
+        return pressKey(focused(cells), Qt::Key_Return);
+    case PanelState::UnitListOpen:
+        return openUnits(cells, QStringLiteral("单笔超价"));
+    case PanelState::EntryListOpen:
+        focusCell(cells, QStringLiteral("报价方式"));
+        return pressKey(&cells, Qt::Key_F2);
+    case PanelState::PeriodEditorOpen:
+        focusCell(cells, QStringLiteral("有效时间"));
+        return pressKey(&cells, Qt::Key_F2);
+    case PanelState::FilterOpen:
+        return openFilter(cells);
+    case PanelState::Scrolled:
+        return scrollDown(table);
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,108 @@
+#include "workbench/TaskPanel.h"
+
+#include "workbench/LanguageTexts.h"
+#include "workbench/NumberCombo.h"
+#include "workbench/TaskModel.h"
+
+#include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
+#include <OrderParamTable_mini/tables/CHpfBasketTaskParamWidget.h>
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+TaskPanel::TaskPanel(QWidget* parent)
+    : PanelHost(parent)
+    , m_model(new TaskModel(this))
+    , m_view(new QTableView)
+    , m_trader(new NumberCombo(traderTypes(), 1))
+    , m_autoBook(new QCheckBox)
+    , m_texts(new LanguageTexts(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setSpacing(6);
+    createBar(layout);
+    createView(layout);
+    m_texts->keep([this] { m_model->retranslate(); });
+}
+
+void TaskPanel::createView(QVBoxLayout* layout)
+{
+    m_view->setModel(m_model);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setAlternatingRowColors(true);
+    m_view->setShowGrid(false);
+    m_view->setWordWrap(false);
+    m_view->setTabKeyNavigation(false);
+    m_view->verticalHeader()->hide();
+    m_view->horizontalHeader()->setHighlightSections(false);
+    m_view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_texts->keep([this] { m_view->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Tasks"))); });
+    connect(m_view, &QTableView::activated, this, [this](const QModelIndex& index) { openTask(index.row()); });
+    layout->addWidget(m_view);
+}
+
+void TaskPanel::createBar(QVBoxLayout* layout)
+{
+    auto* bar = new QHBoxLayout;
+    auto* label = new QLabel;
+    auto* basket = new QPushButton;
+    label->setBuddy(m_trader);
+    bar->addWidget(label);
+    bar->addWidget(m_trader, 1);
+    bar->addWidget(m_autoBook);
+    bar->addWidget(basket);
+    layout->addLayout(bar);
+    m_texts->keep([this, label, basket] {
+        label->setText(translated(QT_TRANSLATE_NOOP("workbench", "Trader type")));
+        m_trader->retranslate();
+        m_autoBook->setText(translated(QT_TRANSLATE_NOOP("workbench", "Automatic order book")));
+        basket->setText(translated(QT_TRANSLATE_NOOP("workbench", "Open basket")));
+    });
+    connect(basket, &QPushButton::clicked, this, &TaskPanel::openBasket);
+}
+
+void TaskPanel::setTasks(std::vector<ttservice::CCodeOrderParam> tasks)
+{
+    m_model->setTasks(std::move(tasks));
+    m_view->resizeColumnsToContents();
+}
+
+void TaskPanel::openTask(int row)
+{
+    if (row < 0 || row >= m_model->rowCount())
+        return;
+    ttservice::CCodeOrderParam task = m_model->task(row);
+    auto* dialog =
+        new TC::CBaseTaskParamWidget(task, QString(), this, true, ttservice::ENvTraderType(m_trader->value()),
+                                     m_autoBook->isChecked(), std::string());
+    dialog->show();
+}
+
+void TaskPanel::openBasket()
+{
+    std::vector<ttservice::CCodeOrderParam> tasks = selectedTasks();
+    auto* dialog = new TC::CHpfBasketTaskParamWidget(tasks, QString(), this, std::string());
+    dialog->show();
+}
+
+std::vector<ttservice::CCodeOrderParam> TaskPanel::selectedTasks() const
+{
+    std::vector<ttservice::CCodeOrderParam> tasks;
+    const QModelIndexList selected = m_view->selectionModel()->selectedRows();
+    for (const QModelIndex& index : selected)
+        tasks.push_back(m_model->task(index.row()));
+    for (int row = 0; selected.isEmpty() && row < m_model->rowCount(); ++row)
+        tasks.push_back(m_model->task(row));
+    return tasks;
+}
+
+} // namespace workbench

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "workbench/Vocabulary.h"
+
+#include <QString>
+
+namespace workbench {
+
+/// What a person has done to the order panel of a picture.
+enum class PanelState {
+    AtRest,
+    RowFocused,
+    EditorOpen,
+    WrongInput,
+    UnitListOpen,
+    EntryListOpen,
+    PeriodEditorOpen,
+    FilterOpen,
+    Disabled,
+    Scrolled
+};
+
+/// One picture of an order panel.
+struct PanelStop
+{
+    const char* name;
+    int identity;
+    int brokerType;
+    int orderType;
+    bool expanded;
+    PanelState state;
+};
+
+/// One picture of a task dialog.
+struct TaskStop
+{
+    const char* name;
+    int brokerType; ///< 0: a task without an account
+    int orderType;
+    int operationType;
+    int traderType;
+    bool expanded;
+};
+
+/// One picture of the credit table; operation -1 is the table as constructed.
+struct CreditStop
+{
+    const char* name;
+    int operation;
+};
+
+/// One picture of the whole window.
+struct WindowStop
+{
+    const char* name;
+    const char* language;
+    int width;
+    int height;
+};
+
+Rows<PanelStop> panelStops();
+Rows<TaskStop> taskStops();
+Rows<CreditStop> creditStops();
+Rows<WindowStop> windowStops();
+
+} // namespace workbench

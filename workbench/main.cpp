@@ -1,0 +1,94 @@
+#include "workbench/Appearance.h"
+#include "workbench/CommandLine.h"
+#include "workbench/HostData.h"
+#include "workbench/Language.h"
+#include "workbench/MainWindow.h"
+#include "workbench/RuntimeDirectory.h"
+#include "workbench/Tour.h"
+
+#include "reference/toolkit/Resources.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+#include <cstdio>
+#include <ctime>
+
+namespace {
+
+/// Chooses Qt's platform before the application is made; false when there is no display and one is needed.
+bool choosePlatform(const QStringList& arguments)
+{
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return true;
+    const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (!workbench::needsNoDisplay(arguments))
+        return hasDisplay;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return true;
+}
+
+int fail(const QString& message)
+{
+    QTextStream(stderr) << "orderparam-workbench: " << message << '\n';
+    return EXIT_FAILURE;
+}
+
+int tour(const workbench::CommandLine& line)
+{
+    qputenv("TZ", "Asia/Shanghai");
+    tzset();
+    workbench::TourRequest request;
+    request.directory = line.tourDirectory;
+    request.scales = line.scale ? std::vector<double>{*line.scale} : std::vector<double>{1.0, 2.0};
+    request.themes =
+        line.theme.isEmpty() ? QStringList{QStringLiteral("dark"), QStringLiteral("light")} : QStringList{line.theme};
+    request.data = workbench::loadHostData(line.dataDirectory);
+    const workbench::TourResult result = workbench::writeTour(request);
+    QTextStream out(stdout);
+    for (const QString& file : result.files)
+        out << file << '\n';
+    return result.error.isEmpty() ? EXIT_SUCCESS : fail(result.error);
+}
+
+int work(const workbench::CommandLine& line)
+{
+    const workbench::SavedLook saved = workbench::savedLook();
+    if (line.language.isEmpty() && !saved.language.isEmpty())
+        workbench::setLanguage(saved.language);
+    const QString theme = line.theme.isEmpty() ? saved.theme : line.theme;
+    if (WQ::resources::themes().contains(theme))
+        workbench::setTheme(theme);
+    workbench::setScale(line.scale.value_or(saved.scale));
+    workbench::MainWindow window(workbench::loadHostData(line.dataDirectory));
+    window.loadState();
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    workbench::ensureRuntimeDirectory();
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    if (!choosePlatform(arguments))
+        return fail(QStringLiteral("no display; --tour DIR writes pictures instead"));
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("orderparam-workbench"));
+    QApplication::setApplicationVersion(QStringLiteral(ORDERPARAM_VERSION));
+
+    workbench::setLanguage(workbench::systemLanguage());
+    const workbench::CommandLine line = workbench::readCommandLine(application);
+    if (!line.error.isEmpty())
+        return fail(line.error);
+    if (!line.language.isEmpty())
+        workbench::setLanguage(line.language);
+    workbench::dressApplication();
+    return line.tourDirectory.isEmpty() ? work(line) : tour(line);
+}

@@ -1,0 +1,665 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>workbench</name>
+    <message>
+        <source>Write a picture of each panel and dialog into &lt;dir&gt; and end.</source>
+        <translation>把每个面板和对话框的图片写入 &lt;dir&gt; 后退出。</translation>
+    </message>
+    <message>
+        <source>UI scale, 1.0 to 3.0.</source>
+        <translation>界面缩放，1.0 到 3.0。</translation>
+    </message>
+    <message>
+        <source>Theme by name.</source>
+        <translation>主题名称。</translation>
+    </message>
+    <message>
+        <source>en or zh_CN.</source>
+        <translation>en 或 zh_CN。</translation>
+    </message>
+    <message>
+        <source>Folder of accounts, tasks and configuration.</source>
+        <translation>账号、任务和配置所在的文件夹。</translation>
+    </message>
+    <message>
+        <source>--scale takes a number from 1.0 to 3.0, not &quot;%1&quot;.</source>
+        <translation>--scale 需要 1.0 到 3.0 的数字，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 takes one of %2, not &quot;%3&quot;.</source>
+        <translation>%1 只能取 %2 之一，而不是“%3”。</translation>
+    </message>
+    <message>
+        <source>Shows every order-parameter table and dialog, and the events they send.</source>
+        <translation>显示每个下单参数表和对话框，以及它们发出的事件。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>多余的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>--tour takes a folder.</source>
+        <translation>--tour 需要一个文件夹。</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作类型</translation>
+    </message>
+    <message>
+        <source>Choose a contract</source>
+        <translation>选择合约</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>录入</translation>
+    </message>
+    <message>
+        <source>Parameter string</source>
+        <translation>参数串</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>载入</translation>
+    </message>
+    <message>
+        <source>Account %1 · code %2 · %3</source>
+        <translation>账号 %1 · 代码 %2 · %3</translation>
+    </message>
+    <message>
+        <source>button clicked</source>
+        <translation>点击按钮</translation>
+    </message>
+    <message>
+        <source>entry chosen</source>
+        <translation>选择条目</translation>
+    </message>
+    <message>
+        <source>number committed</source>
+        <translation>提交数值</translation>
+    </message>
+    <message>
+        <source>cell double-clicked</source>
+        <translation>双击单元格</translation>
+    </message>
+    <message>
+        <source>period committed</source>
+        <translation>提交时间段</translation>
+    </message>
+    <message>
+        <source>line committed</source>
+        <translation>提交文本</translation>
+    </message>
+    <message>
+        <source>unit or check changed</source>
+        <translation>单位或勾选改变</translation>
+    </message>
+    <message>
+        <source>filter applied</source>
+        <translation>应用筛选</translation>
+    </message>
+    <message>
+        <source>parameters changed</source>
+        <translation>参数改变</translation>
+    </message>
+    <message>
+        <source>parameter double-clicked</source>
+        <translation>双击参数</translation>
+    </message>
+    <message>
+        <source>filter reset</source>
+        <translation>重置筛选</translation>
+    </message>
+    <message>
+        <source>price type applied</source>
+        <translation>应用报价方式</translation>
+    </message>
+    <message>
+        <source>price display</source>
+        <translation>价格显示</translation>
+    </message>
+    <message>
+        <source>price display, after hours</source>
+        <translation>价格显示（盘后）</translation>
+    </message>
+    <message>
+        <source>order type chosen</source>
+        <translation>选择委托类型</translation>
+    </message>
+    <message>
+        <source>needed height changed</source>
+        <translation>所需高度改变</translation>
+    </message>
+    <message>
+        <source>contract code emptied</source>
+        <translation>合约代码清空</translation>
+    </message>
+    <message>
+        <source>operation still to be chosen</source>
+        <translation>尚未选择操作</translation>
+    </message>
+    <message>
+        <source>price type from outside</source>
+        <translation>外部设置报价方式</translation>
+    </message>
+    <message>
+        <source>algorithm buttons</source>
+        <translation>算法按钮</translation>
+    </message>
+    <message>
+        <source>credit table</source>
+        <translation>信用表</translation>
+    </message>
+    <message>
+        <source>table %1</source>
+        <translation>表 %1</translation>
+    </message>
+    <message>
+        <source>index %1</source>
+        <translation>第 %1 项</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>序号</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>Filter: number, name, cell or text</source>
+        <translation>筛选：编号、名称、单元格或文本</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Order parameter workbench</source>
+        <translation>下单参数工作台</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>构造</translation>
+    </message>
+    <message>
+        <source>Host calls</source>
+        <translation>宿主调用</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>信用</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation>表(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Rebuild</source>
+        <translation>重建(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Go to the order &amp;panel</source>
+        <translation>转到下单面板(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>主题(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Larger</source>
+        <translation>放大(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller</source>
+        <translation>缩小(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>原始大小(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>语言(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Events</source>
+        <translation>事件(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>筛选(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>清空(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Order parameter workbench %1
+
+A host for every table and dialog of the library.</source>
+        <translation>下单参数工作台 %1
+
+承载本库每个参数表和对话框的宿主程序。</translation>
+    </message>
+    <message>
+        <source>Order type %1 · operation %2 · price type %3 %4 · code %5</source>
+        <translation>委托类型 %1 · 操作 %2 · 报价方式 %3 %4 · 代码 %5</translation>
+    </message>
+    <message>
+        <source>&amp;Order type</source>
+        <translation>委托类型(&amp;O)</translation>
+    </message>
+    <message>
+        <source>O&amp;peration</source>
+        <translation>操作类型(&amp;P)</translation>
+    </message>
+    <message>
+        <source>E&amp;xpanded</source>
+        <translation>展开(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Cells e&amp;nabled</source>
+        <translation>允许编辑(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Cells that the host a&amp;llows</source>
+        <translation>宿主允许的单元格(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Instrument &amp;code</source>
+        <translation>合约代码(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Specified price</source>
+        <translation>指定价(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Global table</source>
+        <translation>全局参数表</translation>
+    </message>
+    <message>
+        <source>Code table</source>
+        <translation>代码参数表</translation>
+    </message>
+    <message>
+        <source>Stop-loss table</source>
+        <translation>止损参数表</translation>
+    </message>
+    <message>
+        <source>&amp;Identity</source>
+        <translation>表标识(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Broker type</source>
+        <translation>账号类型(&amp;B)</translation>
+    </message>
+    <message>
+        <source>T&amp;rader type</source>
+        <translation>交易端类型(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Order-&amp;mode buttons</source>
+        <translation>委托方式按钮(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Table follows the UI s&amp;cale</source>
+        <translation>表格随界面缩放(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic order book allowed</source>
+        <translation>允许自动盘口(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Table c&amp;lass</source>
+        <translation>表类(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Feature modules</source>
+        <translation>功能模块(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>账号</translation>
+    </message>
+    <message>
+        <source>Broker type</source>
+        <translation>账号类型</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Order type</source>
+        <translation>委托类型</translation>
+    </message>
+    <message>
+        <source>Price type</source>
+        <translation>报价方式</translation>
+    </message>
+    <message>
+        <source>Price</source>
+        <translation>价格</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Trader type</source>
+        <translation>交易端类型</translation>
+    </message>
+    <message>
+        <source>Automatic order book</source>
+        <translation>自动盘口</translation>
+    </message>
+    <message>
+        <source>Open basket</source>
+        <translation>打开篮子</translation>
+    </message>
+    <message>
+        <source>Cannot write %1.</source>
+        <translation>无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1.</source>
+        <translation>无法创建文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>general</source>
+        <translation>通用</translation>
+    </message>
+    <message>
+        <source>no remark</source>
+        <translation>无备注</translation>
+    </message>
+    <message>
+        <source>order panel with limit price</source>
+        <translation>带限价的下单面板</translation>
+    </message>
+    <message>
+        <source>composite stock</source>
+        <translation>组合股票</translation>
+    </message>
+    <message>
+        <source>composite futures</source>
+        <translation>组合期货</translation>
+    </message>
+    <message>
+        <source>composite futures, always algorithm</source>
+        <translation>组合期货，始终算法</translation>
+    </message>
+    <message>
+        <source>limit price</source>
+        <translation>限价</translation>
+    </message>
+    <message>
+        <source>no target volume</source>
+        <translation>无目标量</translation>
+    </message>
+    <message>
+        <source>order service, model price</source>
+        <translation>委托服务，模型价</translation>
+    </message>
+    <message>
+        <source>order service</source>
+        <translation>委托服务</translation>
+    </message>
+    <message>
+        <source>order service, composite stock</source>
+        <translation>委托服务，组合股票</translation>
+    </message>
+    <message>
+        <source>stock task</source>
+        <translation>股票任务</translation>
+    </message>
+    <message>
+        <source>futures task</source>
+        <translation>期货任务</translation>
+    </message>
+    <message>
+        <source>option task</source>
+        <translation>期权任务</translation>
+    </message>
+    <message>
+        <source>strip hidden</source>
+        <translation>隐藏按钮栏</translation>
+    </message>
+    <message>
+        <source>always algorithm</source>
+        <translation>始终算法</translation>
+    </message>
+    <message>
+        <source>close settings, book levels</source>
+        <translation>平仓设置，盘口档位</translation>
+    </message>
+    <message>
+        <source>book levels</source>
+        <translation>盘口档位</translation>
+    </message>
+    <message>
+        <source>close settings, no option market types</source>
+        <translation>平仓设置，无期权市价</translation>
+    </message>
+    <message>
+        <source>close settings</source>
+        <translation>平仓设置</translation>
+    </message>
+    <message>
+        <source>futures</source>
+        <translation>期货</translation>
+    </message>
+    <message>
+        <source>stock</source>
+        <translation>股票</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>信用</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>option</source>
+        <translation>期权</translation>
+    </message>
+    <message>
+        <source>Hong Kong</source>
+        <translation>港股</translation>
+    </message>
+    <message>
+        <source>like stock</source>
+        <translation>同股票</translation>
+    </message>
+    <message>
+        <source>like stock, short book</source>
+        <translation>同股票，短盘口</translation>
+    </message>
+    <message>
+        <source>points, book levels</source>
+        <translation>点数，盘口档位</translation>
+    </message>
+    <message>
+        <source>desk 1</source>
+        <translation>交易端 1</translation>
+    </message>
+    <message>
+        <source>desk 2</source>
+        <translation>交易端 2</translation>
+    </message>
+    <message>
+        <source>desk without task facts</source>
+        <translation>任务无信息列</translation>
+    </message>
+    <message>
+        <source>like 4 in composite lists</source>
+        <translation>组合列表同 4</translation>
+    </message>
+    <message>
+        <source>plain order</source>
+        <translation>普通交易</translation>
+    </message>
+    <message>
+        <source>algorithm</source>
+        <translation>智能算法</translation>
+    </message>
+    <message>
+        <source>random volume</source>
+        <translation>随机量</translation>
+    </message>
+    <message>
+        <source>algorithm 3</source>
+        <translation>算法三</translation>
+    </message>
+    <message>
+        <source>parameter set 5</source>
+        <translation>参数组 5</translation>
+    </message>
+    <message>
+        <source>plain order as a task</source>
+        <translation>普通交易任务</translation>
+    </message>
+    <message>
+        <source>algorithm as a task</source>
+        <translation>算法任务</translation>
+    </message>
+    <message>
+        <source>parameter set 12</source>
+        <translation>参数组 12</translation>
+    </message>
+    <message>
+        <source>parameter set 13</source>
+        <translation>参数组 13</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>none chosen</source>
+        <translation>未选择</translation>
+    </message>
+    <message>
+        <source>cleared</source>
+        <translation>已清除</translation>
+    </message>
+    <message>
+        <source>any other operation</source>
+        <translation>其他操作</translation>
+    </message>
+    <message>
+        <source>sell borrowed securities</source>
+        <translation>融券卖出</translation>
+    </message>
+    <message>
+        <source>repay securities by buying</source>
+        <translation>买券还券</translation>
+    </message>
+    <message>
+        <source>repay securities held</source>
+        <translation>现券还券</translation>
+    </message>
+    <message>
+        <source>repay cash by selling</source>
+        <translation>卖券还款</translation>
+    </message>
+    <message>
+        <source>repay cash held</source>
+        <translation>直接还款</translation>
+    </message>
+    <message>
+        <source>without base price</source>
+        <translation>无基准价</translation>
+    </message>
+    <message>
+        <source>pay lending fees</source>
+        <translation>归还融券息费</translation>
+    </message>
+    <message>
+        <source>unknown to the table</source>
+        <translation>表未知的操作</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation>
+            <numerusform>%n 个事件</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
