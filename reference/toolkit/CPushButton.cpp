@@ -175,6 +175,7 @@ CPushButton::CPushButton(const CButtonColor& color, int id, QWidget* parent)
     , d(std::make_unique<CPushButtonPrivate>(this, id, groundKeys(color)))
 {
     d->setUp();
+    setCheckable(true);
 }
 
 CPushButton::CPushButton(const QString& imageKey, int id, int, int, int, int, QWidget* parent)

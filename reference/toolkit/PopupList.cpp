@@ -96,8 +96,8 @@ void PopupList::open(const QRect& anchor)
     const QSize size = neededSize().boundedTo(room.size());
     const bool above = anchor.bottom() + size.height() > room.bottom() && anchor.top() - size.height() >= room.top();
     const int top = above ? anchor.top() - size.height() : anchor.bottom() + 1;
-    const int left = std::clamp(anchor.right() + 1 - size.width(), room.left(),
-                                std::max(room.left(), room.right() + 1 - size.width()));
+    const int wanted = anchor.width() > 1 ? anchor.right() + 1 - size.width() : anchor.left();
+    const int left = std::clamp(wanted, room.left(), std::max(room.left(), room.right() + 1 - size.width()));
     setGeometry(QRect(QPoint(left, top), size));
     show();
     setFocus(Qt::PopupFocusReason);

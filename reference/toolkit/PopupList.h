@@ -22,7 +22,7 @@ public:
     PopupList(QWidget* owner, const QStringList& entries, int current, Chosen chosen);
 
     /// Opens below @p anchor, or above it where the screen ends; @p anchor is in global coordinates. Its right edge is
-    /// the anchor's.
+    /// the anchor's, its left one below a mere point.
     void open(const QRect& anchor);
 
 protected:

@@ -12,12 +12,6 @@
 
 namespace WQ {
 
-namespace {
-
-constexpr int kShortestHandle = 16;
-
-} // namespace
-
 SlimScrollBar::SlimScrollBar(Qt::Orientation orientation, QString groundKey, QWidget* parent)
     : QScrollBar(orientation, parent)
     , m_groundKey(std::move(groundKey))
@@ -37,9 +31,14 @@ int SlimScrollBar::thickness() const
     return resources::size(keys::kScrollBar, painting::scaleOf(this));
 }
 
+int SlimScrollBar::shortestHandle() const
+{
+    return resources::size(keys::kScrollHandleLength, painting::scaleOf(this));
+}
+
 QSize SlimScrollBar::sizeHint() const
 {
-    const QSize size(thickness(), 2 * kShortestHandle);
+    const QSize size(thickness(), 2 * shortestHandle());
     return orientation() == Qt::Vertical ? size : size.transposed();
 }
 
@@ -72,7 +71,7 @@ int SlimScrollBar::handleLength() const
 {
     const double whole = static_cast<double>(maximum()) - minimum() + pageStep();
     const int fair = whole > 0 ? static_cast<int>(length() * (pageStep() / whole)) : length();
-    return std::clamp(fair, std::min(kShortestHandle, length()), std::max(1, length()));
+    return std::clamp(fair, std::min(shortestHandle(), length()), std::max(1, length()));
 }
 
 int SlimScrollBar::handleStart() const

@@ -33,6 +33,7 @@ protected:
 private:
     int along(const QPoint& position) const;
     int length() const;
+    int shortestHandle() const;
     int handleLength() const;
     int handleStart() const;
     QRect handleRect() const;

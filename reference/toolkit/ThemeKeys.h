@@ -43,6 +43,7 @@ inline const QString kNoticeBar = QStringLiteral("siz_notice_bar");        ///< 
 inline const QString kPopupRowHeight = QStringLiteral("siz_popup_row_height"); ///< entry of a popup list
 inline const QString kFilterFooter = QStringLiteral("siz_filter_footer"); ///< filter button's footer under the rows
 inline const QString kScrollBar = QStringLiteral("siz_scroll_bar");       ///< width of a scroll bar
+inline const QString kScrollHandleLength = QStringLiteral("siz_scroll_handle"); ///< least length of a bar's handle
 inline const QString kTitleBar = QStringLiteral("siz_title_bar"); ///< title bar of a floating dialog; never scaled
 inline const QString kChevron = QStringLiteral("siz_chevron");    ///< chevron of a row or button, square
 inline const QString kCheckBox = QStringLiteral("siz_check_box"); ///< box of a check, square
@@ -54,9 +55,11 @@ inline const QString kButtonGap = QStringLiteral("siz_button_gap");            /
 inline const QString kHelpButton = QStringLiteral("siz_help_button");          ///< width of a group's help button
 inline const QString kDropDownButton = QStringLiteral("siz_drop_down_button"); ///< width of a group's drop-down button
 inline const QString kCloseButton = QStringLiteral("siz_close_button");        ///< a dialog's close button, square
+inline const QString kCloseIcon = QStringLiteral("siz_close_icon");       ///< cross of a dialog's close button, square
 inline const QString kFieldPadding = QStringLiteral("siz_field_padding"); ///< inside an input field, left and right
 inline const QString kFieldLabelWidth = QStringLiteral("siz_field_label_width"); ///< label column of single cells
 inline const QString kFieldGap = QStringLiteral("siz_field_gap");       ///< between label column and input field
+inline const QString kFieldWidth = QStringLiteral("siz_field_width");   ///< input field of a single cell, wished for
 inline const QString kFieldHeight = QStringLiteral("siz_field_height"); ///< single cell
 
 // Fonts.

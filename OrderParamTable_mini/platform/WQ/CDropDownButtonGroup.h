@@ -17,8 +17,8 @@ class CDropDownButtonGroupPrivate;
 
 /// Checkable buttons of which one is checked, laid out in the width there is; the rest moves into a drop-down.
 ///
-/// A click on a button sends the button's event 5 (also when it was chosen in the drop-down), on the help button event 5
-/// with ID 0. Programmatic changes send nothing. A missing ID changes nothing.
+/// A click on a button sends the button's event 5 (also when it was chosen in the drop-down), on the help button event
+/// 5 with ID 0. Programmatic changes send nothing. A missing ID changes nothing.
 class WQ_EXPORT CDropDownButtonGroup : public CEventWidgetT<QWidget>, public CUiResourceChangeHandler
 {
     Q_OBJECT
@@ -60,7 +60,7 @@ public:
     QString getParam();
 
     /// Shows exactly the buttons that @p param lists, in its order, the others hidden after them. IDs it lacks and
-    /// pieces that are no numbers are skipped; an empty text changes nothing.
+    /// pieces that are no numbers are skipped; a text without any of its IDs, an empty one above all, changes nothing.
     void setParam(QString param);
 
     /// Lays the buttons out again for the width there is.

@@ -31,6 +31,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
+    /// Offers to copy the single cell under the mouse, or all of the dialog.
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
     std::unique_ptr<CFloatWidgetPrivate> const d;
 };

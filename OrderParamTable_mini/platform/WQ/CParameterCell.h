@@ -12,6 +12,9 @@ namespace WQ {
 class CParameterCellPrivate;
 
 /// A single labelled value outside a table. It shows what it is given: its validator judges typing alone.
+///
+/// While it is enabled, a person may type into it: a commit that changes its text sends event 87 (a number) or 102 (a
+/// text) with its ID and the text. Programmatic changes send nothing.
 class WQ_EXPORT CParameterCell : public CEventWidgetT<QWidget>, public CUiResourceChangeHandler
 {
     Q_OBJECT
@@ -19,8 +22,9 @@ public:
     CParameterCell(int id, const QString& label, const QString& unit, QWidget* parent);
     ~CParameterCell() override;
 
-    /// What typing may enter: numbers from @p min to @p max in steps of @p step; @p message overrides the text shown
-    /// for a wrong one when not empty. Never bounds a value that is set.
+    /// What typing may enter: numbers from @p min to @p max, whole ones when all three are whole; @p step gives the
+    /// decimals that are shown and what Up and Down add; @p message overrides the text shown for a wrong number when
+    /// not empty. Never bounds a value that is set. Until the first call any text may be typed.
     void setDoubleValidator(const QString& message, double min, double max, double step);
 
     /// Sets the value: a number shown with the decimals of the step (not-a-number shows the invalid text), an int, or

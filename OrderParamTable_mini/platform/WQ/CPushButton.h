@@ -17,7 +17,7 @@ class WQ_EXPORT CPushButton : public CEventWidgetT<QPushButton>, public CUiResou
 {
     Q_OBJECT
 public:
-    /// A button with the four background colours of @p color.
+    /// A button with the four background colours of @p color, of which an empty key paints none. It can be checked.
     CPushButton(const CButtonColor& color, int id, QWidget* parent);
 
     /// A button that shows the image of @p imageKey; the numbers after the ID mean nothing here.

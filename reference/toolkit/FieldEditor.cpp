@@ -1,0 +1,73 @@
+#include "reference/toolkit/FieldEditor.h"
+
+#include "reference/toolkit/Resources.h"
+#include "reference/toolkit/ThemeKeys.h"
+
+#include <QKeyEvent>
+
+namespace WQ {
+
+namespace {
+
+constexpr int kManySteps = 10;
+
+QString sheet(const QFont& font, const QString& groundKey)
+{
+    return QStringLiteral("QLineEdit { border: none; padding: 0; margin: 0; min-height: 0; background: %1; color: %2;"
+                          " selection-background-color: %3; selection-color: %2; font: %4px \"%5\"; }")
+        .arg(resources::color(groundKey).name(), resources::color(keys::kValue).name(),
+             resources::color(keys::kSelection).name())
+        .arg(font.pixelSize())
+        .arg(font.family());
+}
+
+} // namespace
+
+FieldEditor::FieldEditor(const QString& text, const QFont& font, QWidget* parent)
+    : QLineEdit(parent)
+    , m_font(font)
+{
+    setFrame(false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setText(text);
+    setWrong(false);
+    selectAll();
+}
+
+void FieldEditor::setWrong(bool wrong)
+{
+    setStyleSheet(sheet(m_font, wrong ? keys::kWrongFill : keys::kInput));
+}
+
+// Enter and Esc end here, so that they never press a button of the dialog or close it.
+void FieldEditor::keyPressEvent(QKeyEvent* event)
+{
+    const int steps = event->modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1;
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        event->accept();
+        Q_EMIT accepted();
+        return;
+    case Qt::Key_Escape:
+        event->accept();
+        Q_EMIT cancelled();
+        return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        event->accept();
+        Q_EMIT stepped(event->key() == Qt::Key_Up ? steps : -steps);
+        return;
+    default:
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void FieldEditor::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        Q_EMIT left();
+}
+
+} // namespace WQ

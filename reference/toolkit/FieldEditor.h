@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace WQ {
+
+/// The line in which a single cell is edited. It looks like the toolkit whatever the application's style sheet says.
+class FieldEditor : public QLineEdit
+{
+    Q_OBJECT
+public:
+    FieldEditor(const QString& text, const QFont& font, QWidget* parent);
+
+    /// Marks the text as wrong, or takes the mark away.
+    void setWrong(bool wrong);
+
+Q_SIGNALS:
+    void accepted();         ///< Enter
+    void cancelled();        ///< Esc
+    void left();             ///< the focus went elsewhere in the window
+    void stepped(int steps); ///< Up and Down, ten steps with Shift
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    const QFont m_font;
+};
+
+} // namespace WQ
