@@ -20,7 +20,7 @@ class CellInteraction;
 ///
 /// After changing a cell, call model().touch(cell); its row is repainted with the next flush. After a call that runs
 /// foreign code, ask a QPointer to the table before touching anything.
-class CMultiParamsTablePrivate
+class WQ_EXPORT CMultiParamsTablePrivate
 {
 public:
     CMultiParamsTablePrivate(CMultiParamsTable* table, bool fontScale);
@@ -117,10 +117,12 @@ public:
     /// @name For the table itself
     /// @{
     void paint(QPaintEvent* event);
+    void layout();
     void setFontScale(bool fontScale);
     void takeScale();
-    void updateColumns();
-    int labelColumn() const;
+    void labelsChanged();
+    void filterChanged();
+    void rowsChanged(int first, int last);
     int add(std::unique_ptr<CMultiParamsTableItem> item);
 
     template <class Change>
@@ -135,16 +137,19 @@ public:
     /// @}
 
 private:
+    void setUpView();
     void applyMetrics();
-    void columnResized(int column);
+    void placeColumns();
+    int labelColumn() const;
+    QString elidedTexts(const CellItem& cell) const;
 
     CMultiParamsTable* const m_table;
-    RowMetrics m_metrics;
     CellModel* const m_model;
     std::unique_ptr<CellInteraction> m_interaction;
+    RowMetrics m_metrics;
     mutable int m_widestLabel = -1; // -1: not measured
     int m_hostColumn = -1;          // -1: the host has set no width
-    bool m_sizingColumns = false;
+    bool m_placingColumns = false;
     bool m_footerVisible = true;
     bool m_fontScale;
 };
@@ -153,18 +158,17 @@ private:
 //
 //   explicit CellInteraction(CMultiParamsTablePrivate& table);
 //   bool keyPress(QKeyEvent*), mousePress(QMouseEvent*), mouseRelease(QMouseEvent*), mouseDoubleClick(QMouseEvent*),
-//        mouseMove(QMouseEvent*), wheel(QWheelEvent*), contextMenu(QContextMenuEvent*), toolTip(QHelpEvent*),
-//        focusNextPrevious(bool next)
+//        mouseMove(QMouseEvent*), wheel(QWheelEvent*), contextMenu(QContextMenuEvent*), focusNextPrevious(bool next)
 //     answer true when they took the event; on false QTableView gets it.
 //   void leave(), focusIn(QFocusEvent*), focusOut(QFocusEvent*), hidden()
 //   void currentChanged(const QModelIndex& current, const QModelIndex& previous)
 //   bool edit(const QModelIndex&, QAbstractItemView::EditTrigger, QEvent*)   // all of QTableView's editing goes here
 //   void closeEditor(QWidget*, QAbstractItemDelegate::EndEditHint)
-//   QModelIndex moveCursor(CMultiParamsTable::CursorAction, Qt::KeyboardModifiers)
 //   void relayout()           // rows, widths, scale or scroll position have changed: move the open editor
 //   void cellChanged(const CellItem&)   // from the program, an editor may stand open over it
 //   void enabledChanged(), filterChanged(), themeChanged()
-//   void addRowState(const CellItem&, RowState&) const; FooterState footerState() const
+//   void addRowState(const CellItem&, RowState&) const
+//   FooterState footerState() const     // enabled and active are filled in by the table
 //   QString wrongText(const CellItem&) const   // what a tooltip says of wrong input; empty when there is none
 
 } // namespace WQ

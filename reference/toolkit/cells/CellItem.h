@@ -1,5 +1,7 @@
 #pragma once
 
+#include <WQ/WqExport.h>
+
 #include <QString>
 #include <QVariant>
 
@@ -9,10 +11,11 @@ enum class CellKind { Combo, Number, CheckNumber, Range, TimePeriod, Line, Text 
 
 /// What one cell of the table holds: its value, how it is written and which changes it takes. No widget, no QObject.
 ///
-/// Functions that set answer whether anything changed, so that the caller can repaint or announce; a kind that lacks
-/// what is asked for answers nothing and takes nothing. The kinds are in ValueCells.h, NumberCell.h and ComboCell.h;
-/// kind() says which class a cell is: Number and CheckNumber are NumberCell, each other kind has the class of its name.
-class CellItem
+/// Functions that set answer whether anything that a person sees has changed, so that the caller can repaint or
+/// announce; limits alone are not seen. A kind that lacks what is asked for answers nothing and takes nothing. The
+/// kinds are in ValueCells.h, NumberCell.h and ComboCell.h; kind() says which class a cell is: Number and CheckNumber
+/// are NumberCell, each other kind has the class of its name.
+class WQ_EXPORT CellItem
 {
 public:
     CellItem(CellKind kind, int id, QString label);

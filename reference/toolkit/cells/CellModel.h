@@ -19,7 +19,7 @@ namespace WQ {
 ///
 /// Changes are gathered: setters only mark, and flush() tells the views once. It runs when the event loop is reached,
 /// when anybody asks for the number of rows, and before the table handles an event, so nobody sees a stale row.
-class CellModel : public QAbstractTableModel
+class WQ_EXPORT CellModel : public QAbstractTableModel
 {
     Q_OBJECT
 public:

@@ -20,8 +20,11 @@ struct RowState
 };
 
 /// Paints a row whole, opaque, the separator in its last device pixel.
-void paintRow(QPainter& painter, const QRect& row, const CellItem& cell, const RowLayout& layout,
-              const RowMetrics& metrics, const RowState& state);
+WQ_EXPORT void paintRow(QPainter& painter, const QRect& row, const CellItem& cell, const RowLayout& layout,
+                        const RowMetrics& metrics, const RowState& state);
+
+/// Paints a check box, wherever one stands: in a row, in the filter's list.
+WQ_EXPORT void paintCheckBox(QPainter& painter, const QRect& box, bool checked, bool enabled);
 
 /// What the filter's footer shows.
 struct FooterState
@@ -33,9 +36,9 @@ struct FooterState
 };
 
 /// Paints the filter's footer, opaque.
-void paintFooter(QPainter& painter, const QRect& footer, const RowMetrics& metrics, const FooterState& state);
+WQ_EXPORT void paintFooter(QPainter& painter, const QRect& footer, const RowMetrics& metrics, const FooterState& state);
 
 /// Paints the ground below the last row, opaque.
-void paintGround(QPainter& painter, const QRect& rect);
+WQ_EXPORT void paintGround(QPainter& painter, const QRect& rect);
 
 } // namespace WQ

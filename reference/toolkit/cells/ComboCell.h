@@ -8,7 +8,7 @@
 namespace WQ {
 
 /// A choice among entries: entry i shows texts[i] and carries values[i]; of unequal lists the shorter counts.
-class ComboCell : public CellItem
+class WQ_EXPORT ComboCell : public CellItem
 {
 public:
     ComboCell(int id, QString label, QStringList texts, QVector<QVariant> values, int currentIndex);

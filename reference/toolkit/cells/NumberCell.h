@@ -8,7 +8,7 @@
 namespace WQ {
 
 /// A number with one unit or several, each with limits of its own, and perhaps a check box (kind CheckNumber).
-class NumberCell : public CellItem
+class WQ_EXPORT NumberCell : public CellItem
 {
 public:
     /// @p units holds at least one unit; the first is current. Not-a-number counts as 0.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <WQ/WqExport.h>
+
 #include <QFont>
 #include <QRect>
 #include <QString>
@@ -9,7 +11,7 @@ namespace WQ {
 class CellItem;
 
 /// The sizes of a row at one scale, read once from the resources.
-struct RowMetrics
+struct WQ_EXPORT RowMetrics
 {
     explicit RowMetrics(double scale);
 
@@ -48,6 +50,6 @@ struct RowLayout
 
 /// Lays out @p cell in @p row. Unit, chevron and check stand at the right; label and value share the rest, each using
 /// what the other leaves. Where both are too long, the label gets @p labelColumn pixels, counted from the row's left.
-RowLayout layoutRow(const CellItem& cell, const QRect& row, const RowMetrics& metrics, int labelColumn);
+WQ_EXPORT RowLayout layoutRow(const CellItem& cell, const QRect& row, const RowMetrics& metrics, int labelColumn);
 
 } // namespace WQ

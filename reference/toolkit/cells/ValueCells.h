@@ -11,7 +11,7 @@
 namespace WQ {
 
 /// Two numbers, the lower first, with a separator between them.
-class RangeCell : public CellItem
+class WQ_EXPORT RangeCell : public CellItem
 {
 public:
     RangeCell(int id, QString label, NumberUnit unit, double low, double high, QString separator);
@@ -67,7 +67,7 @@ private:
 };
 
 /// A period: from one time of day to another (a clock range), or a length of time (a duration).
-class PeriodCell : public CellItem
+class WQ_EXPORT PeriodCell : public CellItem
 {
 public:
     /// An invalid time is midnight.
@@ -109,12 +109,12 @@ public:
 private:
     QTime m_start;
     QTime m_end;
-    int m_duration = -1; // never chosen: then the clock range's length stands in
+    int m_duration = 0;
     EWqTimeRangeType m_type = TimeRangeClock;
 };
 
 /// A line of text, judged by a pattern while a person types it.
-class LineCell : public CellItem
+class WQ_EXPORT LineCell : public CellItem
 {
 public:
     LineCell(int id, QString label, QString text, QString pattern, QString placeholder);
@@ -145,7 +145,7 @@ private:
 };
 
 /// A text with a unit, shown and not computed with (value type 10).
-class TextCell : public CellItem
+class WQ_EXPORT TextCell : public CellItem
 {
 public:
     TextCell(int id, QString label, QString unit);

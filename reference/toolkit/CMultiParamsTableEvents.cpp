@@ -1,0 +1,209 @@
+#include <WQ/CMultiParamsTable.h>
+
+#include "reference/toolkit/CMultiParamsTablePrivate.h"
+#include "reference/toolkit/Painting.h"
+#include "reference/toolkit/editors/CellInteraction.h"
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace WQ {
+
+namespace {
+
+void showToolTip(CMultiParamsTablePrivate& table, const QHelpEvent& event)
+{
+    const CellItem* cell = table.cellAt(event.pos());
+    QString text;
+    if (cell && table.interactionIfAny())
+        text = table.interactionIfAny()->wrongText(*cell);
+    if (cell && text.isEmpty())
+        text = table.toolTipOf(*cell);
+    painting::showToolTip(event, text, table.table());
+}
+
+} // namespace
+
+CMultiParamsTable::CMultiParamsTable(QWidget* parent, bool fontScale)
+    : CEventWidgetT<QTableView>(parent)
+    , d(std::make_unique<CMultiParamsTablePrivate>(this, fontScale))
+{
+}
+
+CMultiParamsTable::~CMultiParamsTable() = default;
+
+bool CMultiParamsTable::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        showToolTip(*d, *static_cast<QHelpEvent*>(event));
+        return true;
+    }
+    if (event->type() == QEvent::Leave && d->interactionIfAny())
+        d->interactionIfAny()->leave();
+    return CEventWidgetT<QTableView>::viewportEvent(event);
+}
+
+void CMultiParamsTable::paintEvent(QPaintEvent* event)
+{
+    d->paint(event);
+}
+
+void CMultiParamsTable::changeEvent(QEvent* event)
+{
+    CEventWidgetT<QTableView>::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange) {
+        viewport()->update();
+        if (CellInteraction* interaction = d->interactionIfAny())
+            interaction->enabledChanged();
+    }
+}
+
+void CMultiParamsTable::keyPressEvent(QKeyEvent* event)
+{
+    if (!d->interaction().keyPress(event))
+        CEventWidgetT<QTableView>::keyPressEvent(event);
+}
+
+void CMultiParamsTable::mousePressEvent(QMouseEvent* event)
+{
+    if (!d->interaction().mousePress(event))
+        CEventWidgetT<QTableView>::mousePressEvent(event);
+}
+
+void CMultiParamsTable::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!d->interaction().mouseRelease(event))
+        CEventWidgetT<QTableView>::mouseReleaseEvent(event);
+}
+
+void CMultiParamsTable::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (!d->interaction().mouseDoubleClick(event))
+        CEventWidgetT<QTableView>::mouseDoubleClickEvent(event);
+}
+
+void CMultiParamsTable::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!d->interaction().mouseMove(event))
+        CEventWidgetT<QTableView>::mouseMoveEvent(event);
+}
+
+void CMultiParamsTable::wheelEvent(QWheelEvent* event)
+{
+    if (!d->interaction().wheel(event))
+        CEventWidgetT<QTableView>::wheelEvent(event);
+}
+
+void CMultiParamsTable::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!d->interaction().contextMenu(event))
+        CEventWidgetT<QTableView>::contextMenuEvent(event);
+}
+
+void CMultiParamsTable::focusInEvent(QFocusEvent* event)
+{
+    CEventWidgetT<QTableView>::focusInEvent(event);
+    d->interaction().focusIn(event);
+}
+
+void CMultiParamsTable::focusOutEvent(QFocusEvent* event)
+{
+    CEventWidgetT<QTableView>::focusOutEvent(event);
+    if (CellInteraction* interaction = d->interactionIfAny())
+        interaction->focusOut(event);
+}
+
+bool CMultiParamsTable::focusNextPrevChild(bool next)
+{
+    return d->interaction().focusNextPrevious(next) || CEventWidgetT<QTableView>::focusNextPrevChild(next);
+}
+
+void CMultiParamsTable::hideEvent(QHideEvent* event)
+{
+    if (CellInteraction* interaction = d->interactionIfAny())
+        interaction->hidden();
+    CEventWidgetT<QTableView>::hideEvent(event);
+}
+
+void CMultiParamsTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    CEventWidgetT<QTableView>::currentChanged(current, previous);
+    viewport()->update(d->rowRect(previous.row()));
+    viewport()->update(d->rowRect(current.row()));
+    if (CellInteraction* interaction = d->interactionIfAny())
+        interaction->currentChanged(current, previous);
+}
+
+bool CMultiParamsTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    return d->interaction().edit(index, trigger, event);
+}
+
+void CMultiParamsTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    d->interaction().closeEditor(editor, hint);
+}
+
+QModelIndex CMultiParamsTable::moveCursor(CursorAction cursorAction, Qt::KeyboardModifiers)
+{
+    const int rows = d->model().rowCount();
+    const int page = std::max(1, viewport()->height() / d->metrics().rowHeight);
+    const int current = currentIndex().isValid() ? currentIndex().row() : -1;
+    int row = current;
+    switch (cursorAction) {
+    case MoveUp:
+    case MoveLeft:
+    case MovePrevious:
+        row = current - 1;
+        break;
+    case MoveDown:
+    case MoveRight:
+    case MoveNext:
+        row = current + 1;
+        break;
+    case MoveHome:
+        row = 0;
+        break;
+    case MoveEnd:
+        row = rows - 1;
+        break;
+    case MovePageUp:
+        row = current - page;
+        break;
+    case MovePageDown:
+        row = current + page;
+        break;
+    }
+    return d->model().index(std::max(0, std::min(row, rows - 1)), CellModel::ValueColumn);
+}
+
+void CMultiParamsTable::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QVector<int>&)
+{
+    // Not Qt's own: it would put the new values into an open editor, over what the person is typing.
+    d->rowsChanged(topLeft.row(), bottomRight.row());
+    if (QAccessible::isActive()) {
+        QAccessibleTableModelChangeEvent change(this, QAccessibleTableModelChangeEvent::DataChanged);
+        change.setFirstRow(topLeft.row());
+        change.setLastRow(bottomRight.row());
+        change.setFirstColumn(topLeft.column());
+        change.setLastColumn(bottomRight.column());
+        QAccessible::updateAccessibility(&change);
+    }
+}
+
+void CMultiParamsTable::scrollContentsBy(int dx, int dy)
+{
+    CEventWidgetT<QTableView>::scrollContentsBy(dx, dy);
+    if (CellInteraction* interaction = d->interactionIfAny())
+        interaction->relayout();
+}
+
+void CMultiParamsTable::updateGeometries()
+{
+    d->layout();
+}
+
+} // namespace WQ

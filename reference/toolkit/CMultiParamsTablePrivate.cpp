@@ -1,0 +1,303 @@
+#include "reference/toolkit/CMultiParamsTablePrivate.h"
+
+#include "reference/toolkit/Resources.h"
+#include "reference/toolkit/cells/TextCache.h"
+#include "reference/toolkit/editors/CellInteraction.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace WQ {
+
+namespace {
+
+constexpr int kLongestToolTip = 1000;
+
+double tableScale(bool fontScale)
+{
+    return fontScale ? resources::scale() : 1.0;
+}
+
+} // namespace
+
+CMultiParamsTablePrivate::CMultiParamsTablePrivate(CMultiParamsTable* table, bool fontScale)
+    : m_table(table)
+    , m_model(new CellModel(table))
+    , m_metrics(tableScale(fontScale))
+    , m_fontScale(fontScale)
+{
+    setUpView();
+    m_model->setToolTipSource([this](const CellItem& cell) { return toolTipOf(cell); });
+    QObject::connect(m_model, &CellModel::filterChanged, m_table, [this] { filterChanged(); });
+    QObject::connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, m_table,
+                     [this](int column, int, int width) {
+                         if (column != CellModel::LabelColumn || m_placingColumns)
+                             return;
+                         m_hostColumn = width;
+                         placeColumns();
+                         m_table->viewport()->update();
+                     });
+}
+
+CMultiParamsTablePrivate::~CMultiParamsTablePrivate() = default;
+
+// The headers stay hidden: they hold row heights and column widths for whoever asks Qt's own way.
+void CMultiParamsTablePrivate::setUpView()
+{
+    m_table->setFrameShape(QFrame::NoFrame);
+    m_table->setFocusPolicy(Qt::StrongFocus);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    m_table->setCornerButtonEnabled(false);
+    m_table->setTabKeyNavigation(false);
+    m_table->setSelectionMode(QAbstractItemView::NoSelection);
+    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    m_table->viewport()->setMouseTracking(true);
+    m_table->horizontalHeader()->hide();
+    m_table->horizontalHeader()->setMinimumSectionSize(0);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setMinimumSectionSize(0);
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(m_metrics.rowHeight);
+    m_table->setModel(m_model);
+}
+
+CellInteraction& CMultiParamsTablePrivate::interaction()
+{
+    if (!m_interaction)
+        m_interaction = std::make_unique<CellInteraction>(*this);
+    return *m_interaction;
+}
+
+int CMultiParamsTablePrivate::add(std::unique_ptr<CMultiParamsTableItem> item)
+{
+    const int position = m_model->add(std::move(item));
+    if (position >= 0)
+        m_widestLabel = -1;
+    return position;
+}
+
+QRect CMultiParamsTablePrivate::rowRect(int row) const
+{
+    if (row < 0 || row >= m_model->rowCount())
+        return QRect();
+    const int top = row * m_metrics.rowHeight - m_table->verticalScrollBar()->value();
+    return QRect(0, top, m_table->viewport()->width(), m_metrics.rowHeight);
+}
+
+QRect CMultiParamsTablePrivate::rowRect(const CellItem& cell) const
+{
+    return rowRect(m_model->rowOf(cell.id()));
+}
+
+int CMultiParamsTablePrivate::rowAt(const QPoint& position) const
+{
+    const int y = position.y() + m_table->verticalScrollBar()->value();
+    const int row = y < 0 ? -1 : y / m_metrics.rowHeight;
+    return rowRect(row).contains(position) ? row : -1;
+}
+
+CellItem* CMultiParamsTablePrivate::cellAt(const QPoint& position) const
+{
+    return m_model->cellAtRow(rowAt(position));
+}
+
+RowLayout CMultiParamsTablePrivate::layoutOf(const CellItem& cell) const
+{
+    return layoutRow(cell, rowRect(cell), m_metrics, labelColumn());
+}
+
+QRect CMultiParamsTablePrivate::footerRect() const
+{
+    if (!m_footerVisible)
+        return QRect();
+    const int top = m_model->rowCount() * m_metrics.rowHeight - m_table->verticalScrollBar()->value();
+    return QRect(0, top, m_table->viewport()->width(), m_metrics.footerHeight);
+}
+
+int CMultiParamsTablePrivate::contentHeight() const
+{
+    return m_model->shownCount() * m_metrics.rowHeight + (m_footerVisible ? m_metrics.footerHeight : 0);
+}
+
+int CMultiParamsTablePrivate::labelColumn() const
+{
+    if (m_hostColumn >= 0)
+        return m_hostColumn;
+    if (m_widestLabel < 0) {
+        m_widestLabel = 0;
+        for (int i = 0; i < m_model->cellCount(); ++i) {
+            const QString label = texts::oneLine(m_model->itemAt(i)->cell()->label());
+            m_widestLabel = std::max(m_widestLabel, texts::width(label, m_metrics.font));
+        }
+    }
+    // A label of any length leaves the values a third of the row.
+    return std::min(m_metrics.padding + m_widestLabel, m_table->viewport()->width() * 2 / 3);
+}
+
+void CMultiParamsTablePrivate::placeColumns()
+{
+    const QScopedValueRollback<bool> placing(m_placingColumns, true);
+    QHeaderView* header = m_table->horizontalHeader();
+    const int label = labelColumn();
+    header->resizeSection(CellModel::LabelColumn, label);
+    header->resizeSection(CellModel::ValueColumn, std::max(0, m_table->viewport()->width() - label));
+}
+
+void CMultiParamsTablePrivate::layout()
+{
+    placeColumns();
+    QScrollBar* scroll = m_table->verticalScrollBar();
+    const int height = m_table->viewport()->height();
+    scroll->setPageStep(height);
+    scroll->setSingleStep(m_metrics.rowHeight);
+    scroll->setRange(0, std::max(0, contentHeight() - height));
+    if (m_interaction)
+        m_interaction->relayout();
+}
+
+void CMultiParamsTablePrivate::labelsChanged()
+{
+    m_widestLabel = -1;
+    placeColumns();
+}
+
+void CMultiParamsTablePrivate::setFontScale(bool fontScale)
+{
+    m_fontScale = fontScale;
+    takeScale();
+}
+
+void CMultiParamsTablePrivate::takeScale()
+{
+    const double scale = tableScale(m_fontScale);
+    if (qFuzzyCompare(scale, m_metrics.scale))
+        return;
+    m_metrics = RowMetrics(scale);
+    m_widestLabel = -1;
+    m_table->verticalHeader()->setDefaultSectionSize(m_metrics.rowHeight);
+    layout();
+    m_table->viewport()->update();
+}
+
+CellItem* CMultiParamsTablePrivate::currentCell() const
+{
+    return m_model->cellAtRow(m_table->currentIndex().row());
+}
+
+void CMultiParamsTablePrivate::setCurrentCell(const CellItem& cell)
+{
+    m_table->setCurrentIndex(m_model->valueIndex(cell.id()));
+}
+
+void CMultiParamsTablePrivate::update(const CellItem& cell)
+{
+    m_table->viewport()->update(rowRect(cell));
+}
+
+void CMultiParamsTablePrivate::updateFooter()
+{
+    m_table->viewport()->update(footerRect());
+}
+
+void CMultiParamsTablePrivate::filterChanged()
+{
+    if (m_table->isVisible())
+        updateFooter();
+    if (m_interaction)
+        m_interaction->filterChanged();
+}
+
+void CMultiParamsTablePrivate::rowsChanged(int first, int last)
+{
+    m_table->viewport()->update(rowRect(first).united(rowRect(last)));
+    for (int row = first; m_interaction && row <= last; ++row) {
+        if (const CellItem* cell = m_model->cellAtRow(row))
+            m_interaction->cellChanged(*cell);
+    }
+}
+
+void CMultiParamsTablePrivate::setFooterVisible(bool visible)
+{
+    if (std::exchange(m_footerVisible, visible) == visible)
+        return;
+    layout();
+    m_table->viewport()->update();
+    filterChanged();
+}
+
+bool CMultiParamsTablePrivate::isFilterEnabled() const
+{
+    return m_footerVisible && m_model->isEnabled() && !m_model->isExpanded() && m_table->isEnabled();
+}
+
+RowState CMultiParamsTablePrivate::rowState(const CellItem& cell) const
+{
+    RowState state;
+    state.enabled = m_model->isEnabled() && m_table->isEnabled();
+    const QWidget* focus = QApplication::focusWidget();
+    state.focus = focus && currentCell() == &cell && (focus == m_table || m_table->isAncestorOf(focus));
+    if (m_interaction)
+        m_interaction->addRowState(cell, state);
+    return state;
+}
+
+QString CMultiParamsTablePrivate::elidedTexts(const CellItem& cell) const
+{
+    const RowLayout layout = layoutOf(cell);
+    QStringList full;
+    if (layout.labelText != cell.label())
+        full << cell.label();
+    if (layout.checkText != cell.checkText())
+        full << cell.checkText();
+    if (layout.valueText != cell.displayText() || layout.unitText != cell.unit())
+        full << (cell.displayText() + QLatin1Char(' ') + cell.unit()).trimmed();
+    return layout.elided ? full.join(QLatin1Char('\n')) : QString();
+}
+
+QString CMultiParamsTablePrivate::toolTipOf(const CellItem& cell) const
+{
+    QStringList lines{elidedTexts(cell), cell.offGridText()};
+    lines.removeAll(QString());
+    const QString text = lines.join(QLatin1Char('\n'));
+    return text.size() <= kLongestToolTip ? text : text.left(kLongestToolTip) + QChar(0x2026);
+}
+
+void CMultiParamsTablePrivate::paint(QPaintEvent* event)
+{
+    QPainter painter(m_table->viewport());
+    const QRect dirty = event->rect();
+    const int rows = m_model->rowCount();
+    const int column = labelColumn();
+    for (int row = 0; row < rows; ++row) {
+        const QRect rect = rowRect(row);
+        if (!rect.intersects(dirty))
+            continue;
+        const CellItem& cell = *m_model->cellAtRow(row);
+        paintRow(painter, rect, cell, layoutRow(cell, rect, m_metrics, column), m_metrics, rowState(cell));
+    }
+    const QRect footer = footerRect();
+    if (footer.intersects(dirty)) {
+        FooterState state = m_interaction ? m_interaction->footerState() : FooterState();
+        state.enabled = isFilterEnabled();
+        state.active = !m_model->visibleSet().isEmpty();
+        paintFooter(painter, footer, m_metrics, state);
+    }
+    const int end = rows * m_metrics.rowHeight - m_table->verticalScrollBar()->value() + footer.height();
+    const QRect ground = m_table->viewport()->rect().adjusted(0, end, 0, 0);
+    if (ground.isValid() && ground.intersects(dirty))
+        paintGround(painter, ground);
+}
+
+} // namespace WQ

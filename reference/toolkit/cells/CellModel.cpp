@@ -1,0 +1,337 @@
+#include "reference/toolkit/cells/CellModel.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <algorithm>
+
+namespace WQ {
+
+namespace {
+
+const QEvent::Type kFlushEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+QString shownText(const CellItem& cell)
+{
+    const QString unit = cell.unit();
+    return unit.isEmpty() ? cell.displayText() : cell.displayText() + QLatin1Char(' ') + unit;
+}
+
+} // namespace
+
+CellModel::CellModel(QObject* parent)
+    : QAbstractTableModel(parent)
+{
+}
+
+CellModel::~CellModel() = default;
+
+int CellModel::add(std::unique_ptr<CMultiParamsTableItem> item)
+{
+    const std::pair<int, int> entry(item->id(), cellCount());
+    const auto place = std::lower_bound(m_positions.begin(), m_positions.end(), std::make_pair(entry.first, 0));
+    if (place != m_positions.end() && place->first == entry.first)
+        return -1;
+    m_positions.insert(place, entry);
+    m_items.push_back(std::move(item));
+    touchRows();
+    if (m_all.contains(entry.first))
+        Q_EMIT filterChanged();
+    return entry.second;
+}
+
+int CellModel::cellCount() const
+{
+    return static_cast<int>(m_items.size());
+}
+
+CMultiParamsTableItem* CellModel::itemAt(int position) const
+{
+    return position >= 0 && position < cellCount() ? m_items[static_cast<size_t>(position)].get() : nullptr;
+}
+
+CMultiParamsTableItem* CellModel::item(int id) const
+{
+    const auto place = std::lower_bound(m_positions.begin(), m_positions.end(), std::make_pair(id, 0));
+    return place != m_positions.end() && place->first == id ? itemAt(place->second) : nullptr;
+}
+
+CellItem* CellModel::cell(int id) const
+{
+    const CMultiParamsTableItem* found = item(id);
+    return found ? found->cell() : nullptr;
+}
+
+CellItem* CellModel::cellAtRow(int row) const
+{
+    if (row < 0 || row >= rowCount())
+        return nullptr;
+    return itemAt(m_rows[static_cast<size_t>(row)])->cell();
+}
+
+int CellModel::rowOf(int id) const
+{
+    const int rows = rowCount();
+    for (int row = 0; row < rows; ++row) {
+        if (cellAtRow(row)->id() == id)
+            return row;
+    }
+    return -1;
+}
+
+QModelIndex CellModel::valueIndex(int id) const
+{
+    return index(rowOf(id), ValueColumn);
+}
+
+void CellModel::touch(CellItem* cell)
+{
+    cell->m_touched = true;
+    m_valuesDirty = true;
+    schedule();
+}
+
+void CellModel::touchRows()
+{
+    m_rowsDirty = true;
+    schedule();
+}
+
+void CellModel::schedule()
+{
+    if (m_scheduled)
+        return;
+    m_scheduled = true;
+    QCoreApplication::postEvent(this, new QEvent(kFlushEvent));
+}
+
+bool CellModel::isShown(const CellItem& cell) const
+{
+    return !cell.isHidden() && (m_expanded || m_visible.isEmpty() || m_visible.contains(cell.id()));
+}
+
+int CellModel::shownCount() const
+{
+    return static_cast<int>(
+        std::count_if(m_items.begin(), m_items.end(), [this](const auto& item) { return isShown(*item->cell()); }));
+}
+
+std::vector<CellItem*> CellModel::filterCells() const
+{
+    std::vector<CellItem*> cells;
+    for (const auto& item : m_items) {
+        if (m_all.contains(item->id()) && !m_blacklist.contains(item->id()))
+            cells.push_back(item->cell());
+    }
+    return cells;
+}
+
+void CellModel::setVisibleSet(QSet<int> ids)
+{
+    if (ids == m_visible)
+        return;
+    m_visible = std::move(ids);
+    touchRows();
+    Q_EMIT filterChanged();
+}
+
+void CellModel::setAllSet(QSet<int> ids)
+{
+    if (ids == m_all)
+        return;
+    m_all = std::move(ids);
+    Q_EMIT filterChanged();
+}
+
+void CellModel::addToAllSet(int id)
+{
+    if (m_all.contains(id))
+        return;
+    m_all.insert(id);
+    Q_EMIT filterChanged();
+}
+
+void CellModel::setBlacklisted(int id, bool excluded)
+{
+    if (m_blacklist.contains(id) == excluded)
+        return;
+    if (excluded)
+        m_blacklist.insert(id);
+    else
+        m_blacklist.remove(id);
+    Q_EMIT filterChanged();
+}
+
+void CellModel::clearBlacklist()
+{
+    if (m_blacklist.isEmpty())
+        return;
+    m_blacklist.clear();
+    Q_EMIT filterChanged();
+}
+
+void CellModel::setExpanded(bool expanded)
+{
+    if (expanded == m_expanded)
+        return;
+    m_expanded = expanded;
+    touchRows();
+    Q_EMIT filterChanged();
+}
+
+void CellModel::setEnabled(bool enabled)
+{
+    if (enabled == m_enabled)
+        return;
+    m_enabled = enabled;
+    for (const auto& item : m_items)
+        touch(item->cell());
+    Q_EMIT filterChanged();
+}
+
+bool CellModel::isEditable(const CellItem& cell) const
+{
+    return m_enabled && cell.isEditable();
+}
+
+void CellModel::setToolTipSource(std::function<QString(const CellItem&)> source)
+{
+    m_toolTip = std::move(source);
+}
+
+void CellModel::flush()
+{
+    if (m_flushing)
+        return;
+    m_flushing = true;
+    if (m_rowsDirty) {
+        m_rowsDirty = false;
+        replaceRows(shownPositions());
+    }
+    if (m_valuesDirty) {
+        m_valuesDirty = false;
+        announceValues();
+    }
+    m_flushing = false;
+}
+
+std::vector<int> CellModel::shownPositions() const
+{
+    std::vector<int> shown;
+    shown.reserve(m_items.size());
+    for (int position = 0; position < cellCount(); ++position) {
+        if (isShown(*itemAt(position)->cell()))
+            shown.push_back(position);
+    }
+    return shown;
+}
+
+// Both lists are sorted. Rows that stay keep their indexes, so that the current row and an open editor stay too.
+void CellModel::replaceRows(std::vector<int> rows)
+{
+    const auto stays = [&rows](int position) { return std::binary_search(rows.begin(), rows.end(), position); };
+    for (int last = static_cast<int>(m_rows.size()) - 1; last >= 0; --last) {
+        if (stays(m_rows[static_cast<size_t>(last)]))
+            continue;
+        int first = last;
+        while (first > 0 && !stays(m_rows[static_cast<size_t>(first - 1)]))
+            --first;
+        beginRemoveRows(QModelIndex(), first, last);
+        m_rows.erase(m_rows.begin() + first, m_rows.begin() + last + 1);
+        endRemoveRows();
+        last = first;
+    }
+    for (size_t at = 0; at < rows.size(); ++at) {
+        size_t end = at;
+        while (end < rows.size() && (at >= m_rows.size() || rows[end] < m_rows[at]))
+            ++end;
+        if (end == at)
+            continue;
+        beginInsertRows(QModelIndex(), static_cast<int>(at), static_cast<int>(end) - 1);
+        const auto first = rows.begin() + static_cast<std::ptrdiff_t>(at);
+        m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(at), first,
+                      rows.begin() + static_cast<std::ptrdiff_t>(end));
+        endInsertRows();
+        at = end - 1;
+    }
+}
+
+void CellModel::announceValues()
+{
+    const auto isTouched = [this](int row) { return itemAt(m_rows[static_cast<size_t>(row)])->cell()->m_touched; };
+    std::vector<std::pair<int, int>> runs;
+    const int rows = static_cast<int>(m_rows.size());
+    for (int row = 0; row < rows; ++row) {
+        if (!isTouched(row))
+            continue;
+        if (!runs.empty() && runs.back().second == row - 1)
+            runs.back().second = row;
+        else
+            runs.emplace_back(row, row);
+    }
+    for (const auto& item : m_items)
+        item->cell()->m_touched = false;
+    for (const auto& run : runs)
+        Q_EMIT dataChanged(index(run.first, LabelColumn), index(run.second, ValueColumn));
+}
+
+int CellModel::rowCount(const QModelIndex& parent) const
+{
+    // Whoever asks gets the rows as they are now, and is told of them before: a view that asks in the middle of a batch
+    // must not meet rows that have gone.
+    if (m_rowsDirty && !m_flushing)
+        const_cast<CellModel*>(this)->flush();
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int CellModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ValueColumn + 1;
+}
+
+QVariant CellModel::data(const QModelIndex& index, int role) const
+{
+    const CellItem* cell = index.isValid() && index.model() == this ? cellAtRow(index.row()) : nullptr;
+    if (!cell)
+        return QVariant();
+    switch (role) {
+    case Qt::DisplayRole:
+        return index.column() == LabelColumn ? cell->label() : shownText(*cell);
+    case Qt::EditRole:
+        return index.column() == LabelColumn ? cell->label() : cell->text();
+    case Qt::AccessibleTextRole:
+        return cell->label();
+    case Qt::AccessibleDescriptionRole:
+        return shownText(*cell);
+    case Qt::ToolTipRole: {
+        const QString text = m_toolTip ? m_toolTip(*cell) : cell->offGridText();
+        return text.isEmpty() ? QVariant() : QVariant(text);
+    }
+    default:
+        return QVariant();
+    }
+}
+
+Qt::ItemFlags CellModel::flags(const QModelIndex& index) const
+{
+    const CellItem* cell = index.isValid() && index.model() == this ? cellAtRow(index.row()) : nullptr;
+    if (!cell)
+        return Qt::NoItemFlags;
+    Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (m_enabled)
+        flags |= Qt::ItemIsEnabled;
+    if (index.column() == ValueColumn && isEditable(*cell))
+        flags |= Qt::ItemIsEditable;
+    return flags;
+}
+
+bool CellModel::event(QEvent* event)
+{
+    if (event->type() != kFlushEvent)
+        return QAbstractTableModel::event(event);
+    m_scheduled = false;
+    flush();
+    return true;
+}
+
+} // namespace WQ
