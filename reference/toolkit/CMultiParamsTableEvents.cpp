@@ -31,6 +31,7 @@ CMultiParamsTable::CMultiParamsTable(QWidget* parent, bool fontScale)
     : CEventWidgetT<QTableView>(parent)
     , d(std::make_unique<CMultiParamsTablePrivate>(this, fontScale))
 {
+    d->setUpView();
 }
 
 CMultiParamsTable::~CMultiParamsTable() = default;

@@ -4,6 +4,7 @@
 #include "reference/toolkit/cells/TextCache.h"
 #include "reference/toolkit/editors/CellInteraction.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QHeaderView>
 #include <QPaintEvent>
@@ -33,17 +34,6 @@ CMultiParamsTablePrivate::CMultiParamsTablePrivate(CMultiParamsTable* table, boo
     , m_metrics(tableScale(fontScale))
     , m_fontScale(fontScale)
 {
-    setUpView();
-    m_model->setToolTipSource([this](const CellItem& cell) { return toolTipOf(cell); });
-    QObject::connect(m_model, &CellModel::filterChanged, m_table, [this] { filterChanged(); });
-    QObject::connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, m_table,
-                     [this](int column, int, int width) {
-                         if (column != CellModel::LabelColumn || m_placingColumns)
-                             return;
-                         m_hostColumn = width;
-                         placeColumns();
-                         m_table->viewport()->update();
-                     });
 }
 
 CMultiParamsTablePrivate::~CMultiParamsTablePrivate() = default;
@@ -55,7 +45,9 @@ void CMultiParamsTablePrivate::setUpView()
     m_table->setFocusPolicy(Qt::StrongFocus);
     m_table->setShowGrid(false);
     m_table->setWordWrap(false);
-    m_table->setCornerButtonEnabled(false);
+    // Only the layout of shown headers would take Qt's corner button away, and that is never made.
+    if (auto* corner = m_table->findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
+        corner->hide();
     m_table->setTabKeyNavigation(false);
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -71,6 +63,21 @@ void CMultiParamsTablePrivate::setUpView()
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(m_metrics.rowHeight);
     m_table->setModel(m_model);
+    connectModel();
+}
+
+void CMultiParamsTablePrivate::connectModel()
+{
+    m_model->setToolTipSource([this](const CellItem& cell) { return toolTipOf(cell); });
+    QObject::connect(m_model, &CellModel::filterChanged, m_table, [this] { filterChanged(); });
+    QObject::connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, m_table,
+                     [this](int column, int, int width) {
+                         if (column != CellModel::LabelColumn || m_placingColumns)
+                             return;
+                         m_hostColumn = width;
+                         placeColumns();
+                         m_table->viewport()->update();
+                     });
 }
 
 CellInteraction& CMultiParamsTablePrivate::interaction()

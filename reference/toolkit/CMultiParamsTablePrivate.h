@@ -116,6 +116,9 @@ public:
 
     /// @name For the table itself
     /// @{
+
+    /// To be called once the table holds this: Qt's own set-up calls back into it.
+    void setUpView();
     void paint(QPaintEvent* event);
     void layout();
     void setFontScale(bool fontScale);
@@ -137,8 +140,7 @@ public:
     /// @}
 
 private:
-    void setUpView();
-    void applyMetrics();
+    void connectModel();
     void placeColumns();
     int labelColumn() const;
     QString elidedTexts(const CellItem& cell) const;
