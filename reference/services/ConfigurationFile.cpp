@@ -72,9 +72,10 @@ LoadReport readConfiguration(const QString& path, const QByteArray& bytes, Confi
         return report;
     }
     // QSettings keeps files it has read and tells changed ones by size and time alone; two quick changes of equal
-    // length would be one to it. It gets a copy of the checked bytes under a name of its own.
+    // length would be one to it. It gets a copy of what was checked, under a name of its own.
     QTemporaryFile copy(QDir::temp().filePath(QStringLiteral("orderparam-XXXXXX.ini")));
-    if (!copy.open() || copy.write(bytes) != bytes.size() || !copy.flush()) {
+    const QByteArray content = lines.content();
+    if (!copy.open() || copy.write(content) != content.size() || !copy.flush()) {
         report.error = placed(path, 0, QStringLiteral("cannot be read: %1").arg(copy.errorString()));
         return report;
     }

@@ -43,15 +43,16 @@ IniLines::IniLines(const QByteArray& bytes)
 void IniLines::takeLine(const QByteArray& text, int line)
 {
     const bool isContinuation = m_isContinued;
-    m_isContinued = text.endsWith('\\');
     const bool isComment = text.isEmpty() || text.startsWith(';') || text.startsWith('#');
+    if (isUtf8(text) && isComment && !isContinuation)
+        return;
+    m_isContinued = text.endsWith('\\');
+    m_content += text + '\n';
+    m_problemLine = line;
     if (!isUtf8(text))
         m_problem = QStringLiteral("not UTF-8");
-    else if (isComment || isContinuation)
-        return;
-    else
+    else if (!isContinuation)
         m_problem = text.startsWith('[') ? takeSection(text) : takeEntry(text, line);
-    m_problemLine = line;
 }
 
 QString IniLines::takeSection(const QByteArray& text)

@@ -6,8 +6,8 @@
 
 namespace reference {
 
-/// A look at the lines of an INI file before QSettings reads it: QSettings passes over what it cannot read and knows
-/// no lines.
+/// A look at the lines of an INI file before QSettings reads it: QSettings passes over much that it cannot read, knows
+/// no lines, and takes neither "#" comments nor a byte order mark.
 class IniLines
 {
 public:
@@ -24,6 +24,12 @@ public:
         return m_problemLine;
     }
 
+    /// The lines that say something.
+    QByteArray content() const
+    {
+        return m_content;
+    }
+
     /// The line of "section/key" as QSettings names it; 0 when there is none.
     int lineOf(const QString& key) const
     {
@@ -35,6 +41,7 @@ private:
     QString takeSection(const QByteArray& text);
     QString takeEntry(const QByteArray& text, int line);
 
+    QByteArray m_content;
     QHash<QString, int> m_lines;
     QString m_section;
     QString m_problem;
