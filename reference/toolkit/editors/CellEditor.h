@@ -1,0 +1,102 @@
+#pragma once
+
+#include "reference/toolkit/editors/EditRules.h"
+
+#include <QFont>
+#include <QWidget>
+
+#include <array>
+
+class QKeyEvent;
+class QLineEdit;
+class QWheelEvent;
+
+namespace WQ {
+
+struct RowMetrics;
+
+/// Who is told what a person does in the editor.
+class CellEditorClient
+{
+public:
+    virtual ~CellEditorClient() = default;
+    virtual void draftChanged() = 0;
+    virtual void submitted() = 0;         ///< Enter
+    virtual void reverted() = 0;          ///< Esc
+    virtual void alternativesAsked() = 0; ///< Alt+Down: the other units, the other kind of period
+    virtual bool checkToggled() = 0;      ///< Space; false when the cell has no check box
+    virtual void focusGone(Qt::FocusReason reason) = 0;
+    virtual void editorDoubleClicked() = 0;
+};
+
+/// The fields in which the value of one cell is edited, over the value's part of its row, whose ground shows through.
+/// One is made for a table when first needed and used for every cell after that.
+class WQ_EXPORT CellEditor : public QWidget
+{
+    Q_OBJECT
+public:
+    CellEditor(QWidget* viewport, CellEditorClient& client);
+
+    /// Shows the value of @p cell, all of it selected. The cell is not touched and must outlive the edit.
+    void open(const CellItem& cell, const QRect& area, const RowMetrics& metrics);
+    void close();
+
+    void place(const QRect& area, const RowMetrics& metrics);
+
+    /// To be called when the cell holds something else: what a person has typed stays, what is untouched follows.
+    void cellChanged();
+
+    /// Makes a period the other kind of period.
+    void switchPeriod();
+
+    Draft draft() const;
+    bool isModified() const;
+
+    bool ownsFocus() const;
+    void takeFocus(bool last = false);
+    void takeFocusAt(const QPoint& position); ///< in the viewport's coordinates
+
+    /// To the next or previous field; false at the ends.
+    bool moveFocus(bool next);
+
+    /// The field that has the focus, else the first.
+    QLineEdit* field() const;
+
+    /// Takes the colours of the theme.
+    void restyle();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    static constexpr int kMostFields = 2;
+
+    int fieldCount() const;
+    int focusedField() const;
+    QLineEdit* makeField();
+    void load(const Draft& draft);
+    void layOut();
+    bool keyPress(QKeyEvent& event);
+    bool wheel(const QWheelEvent& event);
+    bool step(int steps);
+    QString periodText() const;
+    QString separator() const;
+    int fieldWidth(int room) const;
+
+    CellEditorClient& m_client;
+    const CellItem* m_cell = nullptr;
+    std::array<QLineEdit*, kMostFields> m_fields{};
+    QFont m_font; // not the widget's own, which a style sheet of the application may change
+    QRect m_separatorArea;
+    QRect m_periodArea;
+    Draft m_start;
+    EWqTimeRangeType m_period;
+    double m_scale = 0;
+    int m_gap = 0;
+    int m_wheelRest = 0;
+    bool m_loading = false;
+};
+
+} // namespace WQ

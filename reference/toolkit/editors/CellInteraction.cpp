@@ -1,0 +1,284 @@
+#include "reference/toolkit/editors/CellInteraction.h"
+
+#include "reference/toolkit/CMultiParamsTablePrivate.h"
+#include "reference/toolkit/editors/ChoicePopup.h"
+#include "reference/toolkit/editors/FilterPopup.h"
+#include "reference/toolkit/editors/Notice.h"
+#include "reference/toolkit/editors/PersonCommits.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QScrollArea>
+
+#include <utility>
+
+namespace WQ {
+
+CellInteraction::CellInteraction(CMultiParamsTablePrivate& table)
+    : m_table(table)
+{
+}
+
+// The widgets are children of the table, which would take them down later, when what they call has gone.
+CellInteraction::~CellInteraction()
+{
+    m_closing = true;
+    m_cell = nullptr;
+    delete m_notice;
+    delete m_filter;
+    delete m_choices;
+    delete m_editor;
+}
+
+CMultiParamsTable& CellInteraction::widget() const
+{
+    return *m_table.table();
+}
+
+bool CellInteraction::canEdit(const CellItem& cell) const
+{
+    return m_table.model().isShown(cell) && m_table.model().isEditable(cell) && widget().isEnabled();
+}
+
+bool CellInteraction::beginEdit(CellItem& cell)
+{
+    if (m_closing || !hasFields(cell.kind()) || !canEdit(cell))
+        return false;
+    if (m_cell != &cell) {
+        const QPointer<CMultiParamsTable> alive(&widget());
+        finish(Ending::Commit);
+        if (!alive)
+            return false;
+        m_table.setCurrentCell(cell);
+        makeVisible(cell);
+        if (!m_editor)
+            m_editor = new CellEditor(widget().viewport(), *this);
+        m_cell = &cell;
+        m_editor->open(cell, m_table.layoutOf(cell).value, m_table.metrics());
+        m_table.update(cell);
+    }
+    const QPointer<CellEditor> editor(m_editor);
+    m_editor->takeFocus();
+    return editor && m_cell == &cell;
+}
+
+void CellInteraction::storeDraft()
+{
+    if (m_cell && m_editor->isModified() && m_table.model().isEditable(*m_cell) && widget().isEnabled())
+        commits::draft(widget(), *m_cell, m_editor->draft());
+}
+
+// The edit is over before the focus moves: whoever hears of that may come back here or take the table away.
+void CellInteraction::finish(Ending ending)
+{
+    if (!m_cell)
+        return;
+    if (ending == Ending::Commit)
+        storeDraft();
+    const CellItem& cell = *std::exchange(m_cell, nullptr);
+    hideWrong();
+    m_table.update(cell);
+    const QPointer<CellEditor> editor(m_editor);
+    if (editor->ownsFocus())
+        widget().setFocus(Qt::OtherFocusReason);
+    if (editor && !m_cell)
+        editor->close();
+}
+
+void CellInteraction::commitEditor()
+{
+    finish(Ending::Commit);
+}
+
+void CellInteraction::draftChanged()
+{
+    if (!m_cell)
+        return;
+    const Judgement judgement = judgeDraft(*m_cell, m_editor->draft());
+    const bool isWrong = m_editor->isModified() && !judgement.ok;
+    m_wrong = isWrong ? judgement.message : QString();
+    m_table.update(*m_cell);
+    if (isWrong)
+        showWrong();
+    else
+        hideWrong();
+}
+
+void CellInteraction::showWrong()
+{
+    if (!widget().isVisible())
+        return;
+    if (!m_notice)
+        m_notice = new Notice(&widget());
+    m_notice->tell(m_wrong, toGlobal(m_table.rowRect(*m_cell)), m_table.scale());
+}
+
+void CellInteraction::hideWrong()
+{
+    m_wrong.clear();
+    if (m_notice)
+        m_notice->hide();
+}
+
+void CellInteraction::submitted()
+{
+    draftChanged();
+    if (m_wrong.isEmpty())
+        finish(Ending::Commit);
+}
+
+void CellInteraction::reverted()
+{
+    finish(Ending::Drop);
+}
+
+void CellInteraction::alternativesAsked()
+{
+    if (m_cell)
+        openAlternatives(*m_cell);
+}
+
+bool CellInteraction::checkToggled()
+{
+    return m_cell && toggleCheck(*m_cell);
+}
+
+void CellInteraction::editorDoubleClicked()
+{
+    if (m_cell)
+        commits::doubleClick(widget(), *m_cell);
+}
+
+// The person may come back to a window: what is right is stored, a wrong text stays and stays marked.
+void CellInteraction::focusGone(Qt::FocusReason reason)
+{
+    if (!m_cell || m_closing || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason)
+        return;
+    if (reason == Qt::ActiveWindowFocusReason) {
+        storeDraft();
+        return;
+    }
+    // Within the table the press or key that moves the focus decides what becomes of the edit.
+    const QWidget* focus = QApplication::focusWidget();
+    if (!focus || (focus != &widget() && !widget().isAncestorOf(focus)))
+        finish(Ending::Commit);
+}
+
+void CellInteraction::hidden()
+{
+    closePopups();
+    finish(Ending::Commit);
+}
+
+void CellInteraction::currentChanged(const QModelIndex& current, const QModelIndex&)
+{
+    setFooterFocus(false);
+    if (m_cell && m_table.model().cellAtRow(current.row()) != m_cell)
+        finish(Ending::Commit);
+}
+
+bool CellInteraction::edit(const QModelIndex& index, QAbstractItemView::EditTrigger trigger, QEvent* event)
+{
+    CellItem* cell = m_table.model().cellAtRow(index.row());
+    const bool isComposed = event && event->type() == QEvent::InputMethod;
+    if (!cell || (trigger != QAbstractItemView::AllEditTriggers && !isComposed))
+        return false;
+    if (!activate(*cell))
+        return false;
+    if (isComposed && m_cell == cell)
+        QCoreApplication::sendEvent(m_editor->field(), event);
+    return true;
+}
+
+void CellInteraction::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    if (editor && editor == m_editor)
+        finish(hint == QAbstractItemDelegate::RevertModelCache ? Ending::Drop : Ending::Commit);
+}
+
+void CellInteraction::relayout()
+{
+    if (m_choiceCell && !m_table.model().isShown(*m_choiceCell))
+        m_choices->hide();
+    if (!m_cell)
+        return;
+    if (m_table.model().isShown(*m_cell))
+        m_editor->place(m_table.layoutOf(*m_cell).value, m_table.metrics());
+    else
+        finish(Ending::Commit);
+}
+
+void CellInteraction::cellChanged(const CellItem& cell)
+{
+    if (&cell == m_choiceCell) {
+        if (canEdit(cell))
+            fillChoices(cell);
+        else
+            m_choices->hide();
+    }
+    if (&cell != m_cell)
+        return;
+    if (!canEdit(cell)) {
+        finish(m_table.model().isEditable(cell) ? Ending::Commit : Ending::Drop);
+        return;
+    }
+    m_editor->cellChanged();
+    m_editor->place(m_table.layoutOf(cell).value, m_table.metrics());
+    draftChanged();
+}
+
+void CellInteraction::enabledChanged()
+{
+    if (!widget().isEnabled()) {
+        closePopups();
+        finish(Ending::Drop);
+    }
+}
+
+void CellInteraction::themeChanged()
+{
+    if (m_editor)
+        m_editor->restyle();
+    for (QWidget* shown :
+         {static_cast<QWidget*>(m_choices), static_cast<QWidget*>(m_filter), static_cast<QWidget*>(m_notice)}) {
+        if (shown)
+            shown->update();
+    }
+}
+
+void CellInteraction::addRowState(const CellItem& cell, RowState& state) const
+{
+    state.mouse = &cell == m_mouseCell;
+    state.unitMouse = state.mouse && m_unitMouse;
+    state.editing = &cell == m_cell;
+    state.wrong = state.editing && !m_wrong.isEmpty();
+    state.focus = (state.focus && !m_footerFocus) || state.editing || &cell == m_choiceCell;
+}
+
+FooterState CellInteraction::footerState() const
+{
+    FooterState state;
+    state.focus = m_footerFocus;
+    state.mouse = m_footerMouse;
+    return state;
+}
+
+QString CellInteraction::wrongText(const CellItem& cell) const
+{
+    return &cell == m_cell ? m_wrong : QString();
+}
+
+void CellInteraction::makeVisible(const CellItem& cell) const
+{
+    widget().scrollTo(m_table.model().valueIndex(cell.id()));
+    const QRect row = m_table.rowRect(cell);
+    for (QWidget* ancestor = widget().parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
+        auto* area = qobject_cast<QScrollArea*>(ancestor);
+        if (!area || !area->widget() || !area->widget()->isAncestorOf(widget().viewport()))
+            continue;
+        const QPoint center = widget().viewport()->mapTo(area->widget(), row.center());
+        area->ensureVisible(center.x(), center.y(), 0, row.height() / 2 + 1);
+    }
+}
+
+} // namespace WQ
