@@ -1,11 +1,12 @@
 #include "workbench/Appearance.h"
 
+#include "workbench/FlatStyle.h"
+
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
 
 #include <array>
 
@@ -26,14 +27,14 @@ struct RoleRow
 const std::array kRoles = {
     RoleRow{QPalette::Window,          keys::kWindow,    keys::kWindow},
     RoleRow{QPalette::WindowText,      keys::kValue,     keys::kUnit},
-    RoleRow{QPalette::Base,            keys::kInput,     keys::kWindow},
-    RoleRow{QPalette::AlternateBase,   keys::kRow,       keys::kRow},
+    RoleRow{QPalette::Base,            keys::kRow,       keys::kWindow},
+    RoleRow{QPalette::AlternateBase,   keys::kRowMouse,  keys::kRow},
     RoleRow{QPalette::Text,            keys::kValue,     keys::kUnit},
     RoleRow{QPalette::PlaceholderText, keys::kUnit,      keys::kUnit},
     RoleRow{QPalette::Button,          keys::kRow,       keys::kWindow},
     RoleRow{QPalette::ButtonText,      keys::kValue,     keys::kUnit},
-    RoleRow{QPalette::BrightText,      keys::kWrongFrame, keys::kUnit},
-    RoleRow{QPalette::Highlight,       keys::kSelection, keys::kRowMouse},
+    RoleRow{QPalette::BrightText,      keys::kCheckMark, keys::kUnit},
+    RoleRow{QPalette::Highlight,       keys::kRowFocus,  keys::kRowMouse},
     RoleRow{QPalette::HighlightedText, keys::kValue,     keys::kUnit},
     RoleRow{QPalette::ToolTipBase,     keys::kRow,       keys::kRow},
     RoleRow{QPalette::ToolTipText,     keys::kValue,     keys::kUnit},
@@ -61,7 +62,7 @@ QPalette themePalette()
 
 void dressApplication()
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new FlatStyle);
     QApplication::setPalette(themePalette());
     QApplication::setFont(WQ::resources::font(keys::kTextFont, WQ::resources::scale()));
 }

@@ -14,7 +14,7 @@ HostData loadHostData(const QString& folder)
         if (!report.isGood())
             data.problems << report.error;
     };
-    note(reference::loadConfiguration(directory.filePath(QStringLiteral("configuration.ini"))));
+    note(reference::loadConfiguration(directory.filePath(QStringLiteral("orderparam.ini"))));
     note(reference::loadAccounts(directory.filePath(QStringLiteral("accounts.json"))));
     note(reference::loadTasks(directory.filePath(QStringLiteral("tasks.json")), data.tasks));
     return data;

@@ -23,13 +23,14 @@ namespace {
 constexpr double kLargestPrice = 1e6;
 constexpr int kPriceDecimals = 3;
 
-QString answersOf(const TC::COrderParamBaseTable& table, const QString& priceName)
+/// Asks only what changes nothing: it is called from inside the table's own events.
+QString answersOf(const TC::COrderParamBaseTable& table)
 {
     return translated(QT_TRANSLATE_NOOP("workbench", "Order type %1 · operation %2 · price type %3 %4 · code %5"))
         .arg(table.orderType())
         .arg(table.getOperationType())
         .arg(table.priceType())
-        .arg(priceName, table.getStockCode());
+        .arg(labelOf(priceTypes(), table.priceType()), table.getStockCode());
 }
 
 } // namespace
@@ -178,7 +179,7 @@ void OrderControls::refresh()
     m_operation->setValue(m_table->getOperationType());
     const QSignalBlocker quiet(m_expanded);
     m_expanded->setChecked(m_table->isExpand());
-    m_answers->setText(answersOf(*m_table, m_table->getCurrentPriceTypeName()));
+    m_answers->setText(answersOf(*m_table));
 }
 
 } // namespace workbench

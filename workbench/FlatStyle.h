@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QProxyStyle>
+
+class QStyleOptionComboBox;
+class QStyleOptionSpinBox;
+
+namespace workbench {
+
+/// Qt's own widgets drawn as calmly as the toolkit's: flat grounds, hairline frames, the accent for focus and choice.
+/// All colours come from the palette, so that a theme is a palette.
+class FlatStyle : public QProxyStyle
+{
+    Q_OBJECT
+public:
+    FlatStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override;
+
+private:
+    void drawSpinBox(const QStyleOptionSpinBox& option, QPainter& painter, const QWidget* widget) const;
+    void drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const;
+};
+
+} // namespace workbench
