@@ -4,13 +4,38 @@
 #include "reference/toolkit/ThemeKeys.h"
 
 #include <QPainter>
+#include <QPalette>
 #include <QPointer>
 
+#include <initializer_list>
+
 namespace WQ {
+
+namespace {
+
+// For what a host puts into a dialog that is not of the toolkit: lines, labels, plain buttons.
+QPalette themePalette()
+{
+    QPalette palette;
+    const auto give = [&palette](std::initializer_list<QPalette::ColorRole> roles, const QString& key) {
+        for (QPalette::ColorRole role : roles)
+            palette.setColor(role, resources::color(key));
+    };
+    give({QPalette::Window}, keys::kWindow);
+    give({QPalette::Base, QPalette::AlternateBase}, keys::kInput);
+    give({QPalette::Button}, keys::kRow);
+    give({QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText}, keys::kValue);
+    give({QPalette::Light, QPalette::Midlight, QPalette::Mid, QPalette::Dark, QPalette::Shadow}, keys::kSeparator);
+    give({QPalette::Highlight}, keys::kSelection);
+    return palette;
+}
+
+} // namespace
 
 CBaseDialog::CBaseDialog(QWidget* parent)
     : CEventWidgetT<QDialog>(parent)
 {
+    setPalette(themePalette());
 }
 
 CBaseDialog::~CBaseDialog() = default;
@@ -22,6 +47,7 @@ bool CBaseDialog::handleEvent(int, int, int, QString, void*)
 
 void CBaseDialog::themeChanged()
 {
+    setPalette(themePalette());
     update();
 }
 

@@ -90,7 +90,7 @@ void CFloatWidget::setTitle(QString title)
 
 void CFloatWidget::themeChanged()
 {
-    update();
+    CCustomDialog::themeChanged();
 }
 
 void CFloatWidget::paintEvent(QPaintEvent* event)

@@ -1,5 +1,6 @@
 #include <WQ/CScrollArea.h>
 
+#include "reference/toolkit/Painting.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/SlimScrollBar.h"
 #include "reference/toolkit/ThemeKeys.h"
@@ -102,6 +103,14 @@ void CScrollArea::wheelEvent(QWheelEvent* event)
     const int before = d->bar->value();
     d->bar->setValue(before - d->wheelPixels(*event));
     event->setAccepted(d->bar->value() != before || d->rest != 0);
+}
+
+bool CScrollArea::event(QEvent* event)
+{
+    const bool handled = CEventWidgetT<QScrollArea>::event(event);
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+        painting::shieldFromStyleSheet(this);
+    return handled;
 }
 
 } // namespace WQ

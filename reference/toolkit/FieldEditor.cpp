@@ -11,6 +11,9 @@ namespace {
 
 constexpr int kManySteps = 10;
 
+// What a QLineEdit leaves free at both sides of its text whatever the style sheet says.
+constexpr int kOwnMargin = 2;
+
 QString sheet(const QFont& font, const QString& groundKey)
 {
     return QStringLiteral("QLineEdit { border: none; padding: 0; margin: 0; min-height: 0; background: %1; color: %2;"
@@ -28,6 +31,7 @@ FieldEditor::FieldEditor(const QString& text, const QFont& font, QWidget* parent
     , m_font(font)
 {
     setFrame(false);
+    setTextMargins(-kOwnMargin, 0, -kOwnMargin, 0);
     setContextMenuPolicy(Qt::NoContextMenu);
     setText(text);
     setWrong(false);

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <utility>
 
 namespace WQ {
@@ -69,11 +70,12 @@ void IconButton::paintEvent(QPaintEvent*)
 void IconButton::paintDot(QPainter& painter, int edge) const
 {
     const int dot = resources::size(keys::kCriticalDot, painting::buttonScaleOf(this));
-    const QPoint corner((width() + edge) / 2, (height() - edge) / 2);
+    const int left = std::min((width() + edge) / 2 - dot * 2 / 3, width() - dot);
+    const int top = std::max((height() - edge) / 2 - dot / 3, 0);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(resources::color(keys::kNotice));
-    painter.drawEllipse(QRect(corner - QPoint(dot * 2 / 3, dot / 3), QSize(dot, dot)));
+    painter.drawEllipse(QRect(left, top, dot, dot));
 }
 
 void IconButton::keyPressEvent(QKeyEvent* event)

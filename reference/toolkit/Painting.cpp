@@ -2,22 +2,31 @@
 
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
+#include "reference/toolkit/cells/DeviceGrid.h"
 
 #include <WQ/CBaseDialog.h>
 
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 #include <QWidget>
 
 #include <algorithm>
+#include <cmath>
 
 namespace WQ::painting {
 
 namespace {
 
 constexpr int kMostCharacters = 300;
+
+// What is painted on may be another device than the widget's: the widget is rendered into a picture, too.
+qreal pixelRatio(const QPainter& painter)
+{
+    return std::abs(painter.deviceTransform().m11());
+}
 
 } // namespace
 
@@ -32,20 +41,9 @@ double buttonScaleOf(const QWidget* widget)
     return std::min(scaleOf(widget), resources::size(keys::kStripTextMax, 1.0) / atOne);
 }
 
-qreal hairline(const QPainter& painter)
-{
-    const QPaintDevice* device = painter.device();
-    return device ? 1.0 / device->devicePixelRatioF() : 1.0;
-}
-
 void drawFrame(QPainter& painter, const QRect& rect, const QColor& color)
 {
-    const QRectF outer(rect);
-    const qreal line = hairline(painter);
-    painter.fillRect(QRectF(outer.left(), outer.top(), outer.width(), line), color);
-    painter.fillRect(QRectF(outer.left(), outer.bottom() - line, outer.width(), line), color);
-    painter.fillRect(QRectF(outer.left(), outer.top(), line, outer.height()), color);
-    painter.fillRect(QRectF(outer.right() - line, outer.top(), line, outer.height()), color);
+    DeviceGrid(painter).fillFrame(painter, rect, color);
 }
 
 void drawText(QPainter& painter, const QRect& rect, const QFont& font, const QColor& color, Qt::Alignment alignment,
@@ -64,8 +62,7 @@ void drawImage(QPainter& painter, const QRect& rect, const QString& key, const Q
 {
     if (key.isEmpty() || edge <= 0)
         return;
-    const QPaintDevice* device = painter.device();
-    const QPixmap image = resources::image(key, tint, QSize(edge, edge), device ? device->devicePixelRatioF() : 1.0);
+    const QPixmap image = resources::image(key, tint, QSize(edge, edge), pixelRatio(painter));
     painter.drawPixmap(rect.left() + (rect.width() - edge) / 2, rect.top() + (rect.height() - edge) / 2, image);
 }
 
@@ -77,6 +74,15 @@ QString shownText(const QString& text)
 int textWidth(const QFont& font, const QString& text)
 {
     return QFontMetrics(font).horizontalAdvance(shownText(text));
+}
+
+void shieldFromStyleSheet(QWidget* widget)
+{
+    if (!widget->style()->inherits("QStyleSheetStyle") || !widget->styleSheet().isEmpty())
+        return;
+    const QString name = QString::fromLatin1(widget->metaObject()->className());
+    widget->setStyleSheet(QStringLiteral("%1 { border: none; padding: 0; margin: 0; background: transparent; }")
+                              .arg(QString(name).replace(QStringLiteral("::"), QStringLiteral("--"))));
 }
 
 void showToolTip(const QHelpEvent& asked, const QString& text, QWidget* widget)

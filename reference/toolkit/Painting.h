@@ -18,9 +18,6 @@ double scaleOf(const QWidget* widget);
 /// The UI scale of a widget as far as a button's text may follow it.
 double buttonScaleOf(const QWidget* widget);
 
-/// One device pixel in the painter's units.
-qreal hairline(const QPainter& painter);
-
 /// A frame of one device pixel inside @p rect.
 void drawFrame(QPainter& painter, const QRect& rect, const QColor& color);
 
@@ -36,6 +33,10 @@ QString shownText(const QString& text);
 
 /// The width of @p text in @p font, of what may be shown of it.
 int textWidth(const QFont& font, const QString& text);
+
+/// Takes away what a style sheet of the application draws around @p widget. To be called when the widget is polished
+/// and when its style changes; costs nothing where there is no style sheet.
+void shieldFromStyleSheet(QWidget* widget);
 
 /// Shows a text as it is, tags and all, where a tooltip is asked for; an empty text hides the tooltip.
 void showToolTip(const QHelpEvent& asked, const QString& text, QWidget* widget);

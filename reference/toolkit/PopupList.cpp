@@ -152,4 +152,12 @@ void PopupList::paintEvent(QPaintEvent* event)
     painting::drawFrame(painter, viewport()->rect(), resources::color(keys::kSeparator));
 }
 
+bool PopupList::event(QEvent* event)
+{
+    const bool handled = QListView::event(event);
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+        painting::shieldFromStyleSheet(this);
+    return handled;
+}
+
 } // namespace WQ

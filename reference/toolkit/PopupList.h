@@ -1,5 +1,7 @@
 #pragma once
 
+#include <WQ/WqExport.h>
+
 #include <QListView>
 #include <QStringList>
 
@@ -11,7 +13,7 @@ namespace WQ {
 
 /// A list that opens over the window, from which one entry is chosen by mouse or keyboard. It closes and is gone when
 /// an entry is chosen, on Esc, and when the mouse is pressed elsewhere.
-class PopupList : public QListView
+class WQ_EXPORT PopupList : public QListView
 {
     Q_OBJECT
 public:
@@ -26,6 +28,7 @@ public:
     void open(const QRect& anchor);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

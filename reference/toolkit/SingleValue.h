@@ -1,12 +1,14 @@
 #pragma once
 
+#include <WQ/WqExport.h>
+
 #include <QString>
 
 /// The value of a single cell and how it is judged and written: rules without widgets.
 namespace WQ {
 
 /// What may be typed into a single cell.
-struct TypingRule
+struct WQ_EXPORT TypingRule
 {
     bool isNumber = false; ///< otherwise any text
     QString message;       ///< said of a wrong text, instead of the limits; empty for those
@@ -19,16 +21,16 @@ struct TypingRule
 };
 
 /// Whether a person may type that.
-bool isAllowed(const TypingRule& rule, const QString& typed);
+WQ_EXPORT bool isAllowed(const TypingRule& rule, const QString& typed);
 
 /// @p value moved by @p steps steps into the limits.
-double stepped(const TypingRule& rule, double value, int steps);
+WQ_EXPORT double stepped(const TypingRule& rule, double value, int steps);
 
 /// @p value with the decimals of the step, two without one, and more, up to six, when it has them; no grouping. What is
 /// no number shows as "--".
-QString singleValueText(const TypingRule& rule, double value);
+WQ_EXPORT QString singleValueText(const TypingRule& rule, double value);
 
 /// "请输入 0 – 1,000,000"; without the end that nobody can reach.
-QString limitsMessage(double min, double max);
+WQ_EXPORT QString limitsMessage(double min, double max);
 
 } // namespace WQ

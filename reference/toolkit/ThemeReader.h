@@ -1,5 +1,7 @@
 #pragma once
 
+#include <WQ/WqExport.h>
+
 #include <QByteArray>
 #include <QColor>
 #include <QFont>
@@ -31,12 +33,12 @@ using ThemeColors = QHash<QString, QColor>;
 
 /// The colours of a theme file: {"colors": {KEY: "#rrggbb", ...}}. Nothing, and in @p error "LINE: what is wrong", when
 /// anything in it is.
-std::optional<ThemeColors> readThemeColors(const QByteArray& file, QString& error);
+WQ_EXPORT std::optional<ThemeColors> readThemeColors(const QByteArray& file, QString& error);
 
 /// The sizes, fonts and images that all themes share, from their file; errors as above.
-std::optional<ThemeMetrics> readThemeMetrics(const QByteArray& file, QString& error);
+WQ_EXPORT std::optional<ThemeMetrics> readThemeMetrics(const QByteArray& file, QString& error);
 
 /// The line, from 1, in which @p key stands first as a name in quotes; 1 when it stands nowhere.
-int lineOfKey(const QByteArray& file, const QString& key);
+WQ_EXPORT int lineOfKey(const QByteArray& file, const QString& key);
 
 } // namespace WQ
