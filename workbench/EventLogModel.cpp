@@ -41,14 +41,15 @@ QString cellText(const EventRecord& record, int column, qint64 sequence)
 
 } // namespace
 
-EventLogModel::EventLogModel(QObject* parent)
+EventLogModel::EventLogModel(int capacity, QObject* parent)
     : QAbstractTableModel(parent)
+    , m_capacity(capacity)
 {
 }
 
 void EventLogModel::append(const EventRecord& record)
 {
-    if (rowCount() == kCapacity) {
+    if (rowCount() == m_capacity) {
         beginRemoveRows({}, 0, 0);
         m_records.pop_front();
         endRemoveRows();
@@ -91,7 +92,7 @@ int EventLogModel::columnCount(const QModelIndex& parent) const
 
 QVariant EventLogModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!hasIndex(index.row(), index.column(), index.parent()))
         return {};
     if (role == Qt::TextAlignmentRole && index.column() == Sequence)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);

@@ -17,7 +17,7 @@ public:
 
     static constexpr int kCapacity = 5000;
 
-    explicit EventLogModel(QObject* parent = nullptr);
+    explicit EventLogModel(int capacity = kCapacity, QObject* parent = nullptr);
 
     void append(const EventRecord& record);
     void clear();
@@ -34,6 +34,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    int m_capacity;
     std::deque<EventRecord> m_records;
     qint64 m_arrived = 0;
 };

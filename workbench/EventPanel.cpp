@@ -29,7 +29,7 @@ namespace {
 
 /// Widest text expected in each column but the last.
 constexpr std::array<const char*, EventLogModel::ColumnCount - 1> kColumnSamples = {
-    "00000", "00:00:00", "1206 operation still to be chosen", "0x000000 parameters", "00 parameters", "parameters"};
+    "00000", "00:00:00", "1061 price type applied ", "0x4000000 table", "11 parameters", "parameters"};
 
 /// A view that copies what is selected.
 class LogView : public QTableView
@@ -89,7 +89,7 @@ QString rowText(const QAbstractItemModel& model, int row)
 
 EventPanel::EventPanel(QWidget* parent)
     : QWidget(parent)
-    , m_model(new EventLogModel(this))
+    , m_model(new EventLogModel(EventLogModel::kCapacity, this))
     , m_filtered(new QSortFilterProxyModel(this))
     , m_view(new LogView(this))
     , m_filter(new QLineEdit)

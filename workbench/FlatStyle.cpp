@@ -9,6 +9,8 @@ namespace workbench {
 namespace {
 
 constexpr int kTabUnderline = 2;
+constexpr int kScrollBarWidth = 8;
+constexpr int kSmallestHandle = 24;
 
 QColor frameColor(const QStyleOption& option)
 {
@@ -152,6 +154,8 @@ void FlatStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         drawComboBox(*combo, *painter, widget);
     else if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option))
         drawSpinBox(*spin, *painter, widget);
+    else if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option); bar && control == CC_ScrollBar)
+        drawScrollBar(*bar, *painter, widget);
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -171,9 +175,51 @@ void FlatStyle::drawSpinBox(const QStyleOptionSpinBox& option, QPainter& painter
     drawChevron(painter, subControlRect(CC_SpinBox, &option, SC_SpinBoxDown, widget), color, true);
 }
 
+void FlatStyle::drawScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QWidget* widget) const
+{
+    painter.fillRect(option.rect, option.palette.color(QPalette::Window));
+    const QRect handle = subControlRect(CC_ScrollBar, &option, SC_ScrollBarSlider, widget);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.color(QPalette::Mid));
+    const qreal radius = qMin(handle.width(), handle.height()) / 2.0;
+    painter.drawRoundedRect(QRectF(handle), radius, radius);
+    painter.restore();
+}
+
+QRect FlatStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar)
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    if (part == SC_ScrollBarAddLine || part == SC_ScrollBarSubLine)
+        return {};
+    if (part == SC_ScrollBarGroove)
+        return bar->rect;
+    const bool isVertical = bar->orientation == Qt::Vertical;
+    const int room = isVertical ? bar->rect.height() : bar->rect.width();
+    const double all = double(bar->maximum) - bar->minimum + bar->pageStep;
+    const int length = qBound(qMin(room, kSmallestHandle), int(room * (bar->pageStep / qMax(1.0, all))), room);
+    const int start =
+        sliderPositionFromValue(bar->minimum, bar->maximum, bar->sliderPosition, room - length, bar->upsideDown);
+    const int from = part == SC_ScrollBarAddPage ? start + length : part == SC_ScrollBarSubPage ? 0 : start;
+    const int size = part == SC_ScrollBarAddPage ? room - from : part == SC_ScrollBarSubPage ? start : length;
+    return isVertical ? QRect(bar->rect.left(), bar->rect.top() + from, bar->rect.width(), size)
+                      : QRect(bar->rect.left() + from, bar->rect.top(), size, bar->rect.height());
+}
+
 int FlatStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
-    return metric == PM_DockWidgetSeparatorExtent ? 5 : QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+    case PM_DockWidgetSeparatorExtent:
+        return 5;
+    case PM_ScrollBarExtent:
+        return kScrollBarWidth;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
 }
 
 int FlatStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

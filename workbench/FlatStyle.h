@@ -3,6 +3,7 @@
 #include <QProxyStyle>
 
 class QStyleOptionComboBox;
+class QStyleOptionSlider;
 class QStyleOptionSpinBox;
 
 namespace workbench {
@@ -21,12 +22,15 @@ public:
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override;
 
 private:
     void drawSpinBox(const QStyleOptionSpinBox& option, QPainter& painter, const QWidget* widget) const;
+    void drawScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QWidget* widget) const;
     void drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const;
 };
 

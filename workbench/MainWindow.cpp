@@ -28,6 +28,9 @@ namespace workbench {
 namespace {
 
 constexpr QSize kFirstSize(1180, 760);
+constexpr int kSetupWidth = 280;
+constexpr int kControlsWidth = 380;
+constexpr int kEventsHeight = 210;
 
 /// The accounts that the credit table may offer: its host fills the combo.
 QStringList creditAccounts()
@@ -72,6 +75,7 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
     m_credit->setAccounts(creditAccounts());
     m_form->setModules(reference::modules().values());
     rebuildTable();
+    m_bench->focusTable();
     resize(kFirstSize * WQ::resources::scale());
     showProblems(hostData.problems);
 }
@@ -105,13 +109,14 @@ void MainWindow::createDocks()
     const auto credit =
         addDock("creditDock", QT_TRANSLATE_NOOP("workbench", "Credit"), scrolled(m_credit), Qt::RightDockWidgetArea);
     const auto events =
-        addDock("eventsDock", QT_TRANSLATE_NOOP("workbench", "Events"), m_events, Qt::RightDockWidgetArea);
-    splitDockWidget(controls, events, Qt::Vertical);
+        addDock("eventsDock", QT_TRANSLATE_NOOP("workbench", "Events"), m_events, Qt::BottomDockWidgetArea);
     tabifyDockWidget(controls, tasks);
     tabifyDockWidget(controls, credit);
     controls->raise();
-    resizeDocks({setup, controls}, {280, 470}, Qt::Horizontal);
-    resizeDocks({controls, events}, {360, 360}, Qt::Vertical);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    const double scale = WQ::resources::scale();
+    resizeDocks({setup, controls}, {qRound(kSetupWidth * scale), qRound(kControlsWidth * scale)}, Qt::Horizontal);
+    resizeDocks({events}, {qRound(kEventsHeight * scale)}, Qt::Vertical);
 }
 
 QDockWidget* MainWindow::addDock(const char* name, const char* title, QWidget* content, Qt::DockWidgetArea area)

@@ -8,8 +8,6 @@
 
 #include "reference/toolkit/Resources.h"
 
-#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
-
 #include <QActionGroup>
 #include <QCoreApplication>
 #include <QDockWidget>
@@ -77,10 +75,7 @@ void MainWindow::createTableMenu()
     menu->addSeparator();
     QAction* quit = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Quit"), QKeySequence(Qt::CTRL + Qt::Key_Q));
     connect(rebuild, &QAction::triggered, this, &MainWindow::rebuildTable);
-    connect(focus, &QAction::triggered, this, [this] {
-        if (TC::COrderParamBaseTable* table = m_bench->table())
-            table->setFocus(Qt::ShortcutFocusReason);
-    });
+    connect(focus, &QAction::triggered, m_bench, &TableBench::focusTable);
     connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 

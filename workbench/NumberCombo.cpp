@@ -44,6 +44,13 @@ void NumberCombo::retranslate()
     setValue(m_value);
 }
 
+/// A text that is no number never counts as finished editing; what is left must not look like a value.
+void NumberCombo::focusOutEvent(QFocusEvent* event)
+{
+    QComboBox::focusOutEvent(event);
+    take(currentText());
+}
+
 void NumberCombo::take(const QString& text)
 {
     const QString number = text.trimmed().section(QLatin1Char(' '), 0, 0);

@@ -24,6 +24,9 @@ Q_SIGNALS:
     /// A person chose or typed another value.
     void valueChanged(int value);
 
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+
 private:
     void take(const QString& text);
 

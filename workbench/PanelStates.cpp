@@ -5,7 +5,6 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 #include <WQ/CMultiParamsTable.h>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollArea>
@@ -70,12 +69,11 @@ void openUnits(WQ::CMultiParamsTable& cells, const QString& label)
     pressKey(&cells, Qt::Key_Down, Qt::AltModifier);
 }
 
-void openFilter(WQ::CMultiParamsTable& cells)
+/// The filter's footer is the last line of the cell table.
+void openFilter(const WQ::CMultiParamsTable& cells)
 {
-    const auto buttons = cells.findChildren<QAbstractButton*>();
-    for (QAbstractButton* button : buttons)
-        if (button->isVisible())
-            return click(button, button->rect().center());
+    QWidget* viewport = cells.viewport();
+    click(viewport, viewport->rect().bottomRight() - QPoint(viewport->width() / 10, viewport->height() / 40));
 }
 
 void scrollDown(TC::COrderParamBaseTable& table)

@@ -2,6 +2,8 @@
 
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
+#include <WQ/CMultiParamsTable.h>
+
 #include <QHBoxLayout>
 
 namespace workbench {
@@ -27,7 +29,7 @@ void TableBench::rebuild(const TableSetup& setup, const TableDrive& drive)
         return;
     m_table->show();
     if (hadFocus)
-        m_table->setFocus();
+        focusTable();
     Q_EMIT rebuilt(m_table);
 }
 
@@ -39,6 +41,12 @@ TC::COrderParamBaseTable* TableBench::table() const
 const TableSetup& TableBench::setup() const
 {
     return m_setup;
+}
+
+void TableBench::focusTable()
+{
+    if (m_table && m_table->getMultiParamsTable())
+        m_table->getMultiParamsTable()->setFocus(Qt::ShortcutFocusReason);
 }
 
 void TableBench::scaleTable()

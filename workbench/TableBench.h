@@ -26,6 +26,9 @@ public:
 
     const TableSetup& setup() const;
 
+    /// Gives the keyboard to the cells.
+    void focusTable();
+
     /// Hands a new UI scale to the table: only its owner does that.
     void scaleTable();
 

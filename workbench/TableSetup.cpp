@@ -101,8 +101,9 @@ void driveTable(TC::COrderParamBaseTable& table, const TableDrive& drive)
         table.setOrderType(ttservice::EOrderType(*drive.orderType));
     if (alive && drive.flags)
         table.setFlag(TC::OperationCellFlags(*drive.flags));
-    if (alive && drive.expanded)
-        table.setExpandItemsHidden(!*drive.expanded);
+    // Collapsing also fits the height of a table that nothing was called on yet.
+    if (alive)
+        table.setExpandItemsHidden(!drive.expanded);
     if (alive)
         table.setAllItemEnable(drive.enabled);
 }

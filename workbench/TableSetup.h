@@ -27,14 +27,15 @@ struct TableSetup
     bool autoBook = false;
 };
 
-/// What a host does to a table after construction. What is not set is not called.
+/// What a host does to a table after construction. What is not set is not called: such a table shows every cell that it
+/// was made with.
 struct TableDrive
 {
     QString code;
     std::optional<int> operationType;
     std::optional<int> orderType;
     std::optional<int> flags;
-    std::optional<bool> expanded;
+    bool expanded = false;
     bool enabled = true;
 };
 

@@ -85,7 +85,7 @@ int TaskModel::columnCount(const QModelIndex& parent) const
 
 QVariant TaskModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!hasIndex(index.row(), index.column(), index.parent()))
         return {};
     const bool isNumber = index.column() == Price || index.column() == Volume;
     if (role == Qt::TextAlignmentRole && isNumber)

@@ -2,10 +2,8 @@
 
 #include "workbench/LanguageTexts.h"
 #include "workbench/NumberCombo.h"
+#include "workbench/TaskDialogs.h"
 #include "workbench/TaskModel.h"
-
-#include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
-#include <OrderParamTable_mini/tables/CHpfBasketTaskParamWidget.h>
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -80,18 +78,12 @@ void TaskPanel::openTask(int row)
 {
     if (row < 0 || row >= m_model->rowCount())
         return;
-    ttservice::CCodeOrderParam task = m_model->task(row);
-    auto* dialog =
-        new TC::CBaseTaskParamWidget(task, QString(), this, true, ttservice::ENvTraderType(m_trader->value()),
-                                     m_autoBook->isChecked(), std::string());
-    dialog->show();
+    makeTaskDialog(m_model->task(row), m_trader->value(), m_autoBook->isChecked(), this)->show();
 }
 
 void TaskPanel::openBasket()
 {
-    std::vector<ttservice::CCodeOrderParam> tasks = selectedTasks();
-    auto* dialog = new TC::CHpfBasketTaskParamWidget(tasks, QString(), this, std::string());
-    dialog->show();
+    makeBasketDialog(selectedTasks(), this)->show();
 }
 
 std::vector<ttservice::CCodeOrderParam> TaskPanel::selectedTasks() const

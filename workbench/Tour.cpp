@@ -1,6 +1,7 @@
 #include "workbench/Tour.h"
 
 #include "workbench/Appearance.h"
+#include "workbench/Language.h"
 #include "workbench/Snapshot.h"
 #include "workbench/TourStages.h"
 
@@ -79,6 +80,7 @@ TourResult writeTour(const TourRequest& request)
         setTheme(theme);
         for (const double scale : request.scales) {
             setScale(scale);
+            setLanguage(request.language);
             const QString suffix = QStringLiteral("-%1-%2.png").arg(theme).arg(scale, 0, 'f', 2);
             Photographer(request, suffix, result).takeAll();
         }

@@ -14,7 +14,8 @@ struct TourRequest
     QString directory;
     std::vector<double> scales;
     QStringList themes;
-    HostData data; ///< what the pictures of the window show
+    QString language = QStringLiteral("en"); ///< of all pictures but those of the window, which name their own
+    HostData data;                           ///< what the pictures of the window show
 };
 
 struct TourResult

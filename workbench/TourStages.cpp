@@ -5,19 +5,19 @@
 #include "workbench/PanelStates.h"
 #include "workbench/Snapshot.h"
 #include "workbench/TableBench.h"
+#include "workbench/TaskDialogs.h"
 
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
 #include <OrderParamTable_mini/credit/CCreditParamTable.h>
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
-#include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
-#include <OrderParamTable_mini/tables/CHpfBasketTaskParamWidget.h>
 #include <WQ/CMultiParamsTable.h>
 #include <WQ/CPushButton.h>
 
 #include <boost/make_shared.hpp>
 
+#include <QApplication>
 #include <QHBoxLayout>
 
 namespace workbench {
@@ -37,7 +37,7 @@ void fitBench(TableBench& bench, PanelState state)
     const TC::COrderParamBaseTable& table = *bench.table();
     const int strip = WQ::resources::size(WQ::keys::kStripHeight, 1.0);
     const int needed = state == PanelState::Scrolled ? 0 : strip + table.getMultiParamsTable()->realHeight();
-    bench.setFixedSize(table.width(), qMax(panelHeight(), needed));
+    bench.resize(table.width(), qMax(panelHeight(), needed));
 }
 
 ttservice::CCodeOrderParam sampleTask(const TaskStop& stop)
@@ -67,6 +67,9 @@ Stage shown(std::unique_ptr<QWidget> window, qreal pixelRatio)
     window->show();
     window->activateWindow();
     settle();
+    // At rest nothing has the focus; a state that needs it takes it.
+    if (QWidget* focus = QApplication::focusWidget())
+        focus->clearFocus();
     return {std::move(window), pixelRatio};
 }
 
@@ -94,9 +97,7 @@ Stage stagePanel(const PanelStop& stop)
 
 Stage stageTask(const TaskStop& stop)
 {
-    ttservice::CCodeOrderParam task = sampleTask(stop);
-    auto dialog = std::make_unique<TC::CBaseTaskParamWidget>(
-        task, QString(), nullptr, true, ttservice::ENvTraderType(stop.traderType), false, std::string());
+    std::unique_ptr<QWidget> dialog(makeTaskDialog(sampleTask(stop), stop.traderType, false, nullptr));
     // The dialogs keep their size at every UI scale: their picture grows by its pixels instead.
     Stage stage = shown(std::move(dialog), WQ::resources::scale());
     if (!stop.expanded)
@@ -110,9 +111,8 @@ Stage stageTask(const TaskStop& stop)
 
 Stage stageBasket()
 {
-    std::vector<ttservice::CCodeOrderParam> tasks;
-    return shown(std::make_unique<TC::CHpfBasketTaskParamWidget>(tasks, QString(), nullptr, std::string()),
-                 WQ::resources::scale());
+    std::unique_ptr<QWidget> dialog(makeBasketDialog(std::vector<ttservice::CCodeOrderParam>(3), nullptr));
+    return shown(std::move(dialog), WQ::resources::scale());
 }
 
 Stage stageCredit(const CreditStop& stop)
@@ -137,7 +137,11 @@ Stage stageWindow(const WindowStop& stop, const HostData& data)
     workbench.chooseLanguage(QLatin1String(stop.language));
     workbench.resize(QSize(stop.width, stop.height) * WQ::resources::scale());
     Stage stage = shown(std::move(window), 1.0);
+    if (stop.orderType < 0)
+        return stage;
     TC::COrderParamBaseTable* table = workbench.bench()->table();
+    table->setOrderType(ttservice::EOrderType(stop.orderType));
+    table->setExpandItemsHidden(false);
     table->selectPrice(ttservice::PRTP_BUY1);
     table->setFixedPrice(10.23);
     settle();

@@ -63,9 +63,9 @@ constexpr std::array kCreditStops = {
 };
 
 constexpr std::array kWindowStops = {
-    WindowStop{"window-en",         "en",    1180, 760},
-    WindowStop{"window-zh",         "zh_CN", 1180, 760},
-    WindowStop{"window-small",      "en",    1024, 700},
+    WindowStop{"window-en",    "en",    1,  1180, 760},
+    WindowStop{"window-zh",    "zh_CN", 1,  1180, 760},
+    WindowStop{"window-small", "en",    -1, 1024, 700},
 };
 
 // clang-format on

@@ -49,11 +49,12 @@ struct CreditStop
     int operation;
 };
 
-/// One picture of the whole window.
+/// One picture of the whole window; order type -1 leaves its panel as constructed.
 struct WindowStop
 {
     const char* name;
     const char* language;
+    int orderType;
     int width;
     int height;
 };

@@ -28,6 +28,14 @@ bool choosePlatform(const QStringList& arguments)
     return true;
 }
 
+/// The offscreen platform says so for each window that it cannot raise or limit, which nobody who renders pictures
+/// needs to know.
+void dropOffscreenNotes(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support")))
+        QTextStream(stderr) << qFormatLogMessage(type, context, message) << '\n';
+}
+
 int fail(const QString& message)
 {
     QTextStream(stderr) << "orderparam-workbench: " << message << '\n';
@@ -43,6 +51,8 @@ int tour(const workbench::CommandLine& line)
     request.scales = line.scale ? std::vector<double>{*line.scale} : std::vector<double>{1.0, 2.0};
     request.themes =
         line.theme.isEmpty() ? QStringList{QStringLiteral("dark"), QStringLiteral("light")} : QStringList{line.theme};
+    if (!line.language.isEmpty())
+        request.language = line.language;
     request.data = workbench::loadHostData(line.dataDirectory);
     const workbench::TourResult result = workbench::writeTour(request);
     QTextStream out(stdout);
@@ -80,6 +90,8 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        qInstallMessageHandler(dropOffscreenNotes);
     QApplication::setApplicationName(QStringLiteral("orderparam-workbench"));
     QApplication::setApplicationVersion(QStringLiteral(ORDERPARAM_VERSION));
 

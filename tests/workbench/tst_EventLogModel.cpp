@@ -53,12 +53,12 @@ void tst_EventLogModel::eventsStandInOrderOfArrival()
 
 void tst_EventLogModel::itKeepsTheLastEventsAndTheirNumbers()
 {
-    EventLogModel model;
+    EventLogModel model(5);
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    for (int i = 0; i < EventLogModel::kCapacity + 3; ++i)
+    for (int i = 0; i < 8; ++i)
         model.append(changed(i));
-    QCOMPARE(model.rowCount(), EventLogModel::kCapacity);
-    QCOMPARE(model.arrived(), qint64(EventLogModel::kCapacity + 3));
+    QCOMPARE(model.rowCount(), 5);
+    QCOMPARE(model.arrived(), qint64(8));
     QCOMPARE(cell(model, 0, EventLogModel::Sequence), QStringLiteral("4"));
     QCOMPARE(cell(model, 0, EventLogModel::Source), QStringLiteral("table 3"));
 }

@@ -139,6 +139,7 @@ void tst_TableBench::itCanBeRebuiltFromInsideAModeClick()
 {
     TableBench bench;
     bench.rebuild({}, driven(0));
+    bench.resize(240, 340);
     bench.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bench));
     const QPointer<TC::COrderParamBaseTable> old = bench.table();

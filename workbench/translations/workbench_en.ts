@@ -10,5 +10,12 @@
             <numerusform>%n events</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Basket of %n task(s)</source>
+        <translation>
+            <numerusform>Basket of %n task</numerusform>
+            <numerusform>Basket of %n tasks</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

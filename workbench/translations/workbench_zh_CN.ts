@@ -661,5 +661,15 @@ A host for every table and dialog of the library.</source>
             <numerusform>%n 个事件</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Task</source>
+        <translation>任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>Basket of %n task(s)</source>
+        <translation>
+            <numerusform>%n 个任务的篮子</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>
