@@ -1,0 +1,438 @@
+#include "frame/PriceTypeExpectations.h"
+#include "support/BaseTableProbe.h"
+#include "support/CellText.h"
+#include "support/EventLog.h"
+#include "support/ModuleGuard.h"
+
+#include <WQ/CMultiParamsTable.h>
+
+#include <QtTest>
+
+using namespace support;
+
+namespace {
+
+QString text(const char* utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+QStringList zipped(const QStringList& labels, const QVector<QVariant>& values)
+{
+    QStringList entries;
+    for (int i = 0; i < qMax(labels.size(), values.size()); ++i)
+        entries << labels.value(i) + QLatin1Char('=') + values.value(i).toString();
+    return entries;
+}
+
+QString priceTypes(BaseTableProbe& table)
+{
+    return comboEntries(*table.m_table, TC::OCF_PriceType);
+}
+
+int chosen(BaseTableProbe& table)
+{
+    const QVariant value = table.m_table->itemData(TC::OCF_PriceType);
+    return value.isValid() ? value.toInt() : -1000;
+}
+
+const char kFullLevels[] = "卖⑤价=0 卖④价=1 卖③价=2 卖②价=3 卖①价=4 最新价=5 买①价=6 买②价=7 买③价=8 买④价=9 买⑤价=10";
+
+} // namespace
+
+/// Which price types the cell offers, when it is refilled, and what becomes of the choice.
+class tst_PriceTypeCell : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void listsByFlagsMarketAndState_data();
+    void listsByFlagsMarketAndState();
+    void buildersOnlyAppend();
+    void applyingLoadsTheListsIntoTheCell();
+    void securitiesLendingSellIsLimitedToTheSpecifiedPrice();
+    void afterHoursPricingNeedsMarket3PlainOrderAndIdentity_data();
+    void afterHoursPricingNeedsMarket3PlainOrderAndIdentity();
+    void bestFiveLevelsHaveTwoValues_data();
+    void bestFiveLevelsHaveTwoValues();
+    void optionTableOfIdentity43OffersNoMarketOrders();
+    void bookLevelsByBrokerType();
+    void rebuildByIdentity_data();
+    void rebuildByIdentity();
+    void compositeTableWithoutItsModuleIsEmptied();
+    void compositeTableWithItsModule();
+    void rememberedChoiceSurvivesARebuild();
+    void priceTypeIsChosenWithoutEventAndNotFromOutsideTheList();
+    void selectingAPriceTellsTheHost();
+    void namesFollowTheCell();
+    void namesOfAlgorithmsAreEmpty();
+    void storedNameStaysUntilItIsEmptiedOrReplaced();
+    void emptiedCellMakesThePriceTypeZero();
+    void stockCodeStoresThenRebuilds();
+    void tableWithoutPriceTypeCellKeepsItsState();
+};
+
+void tst_PriceTypeCell::listsByFlagsMarketAndState_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<int>("brokerType");
+    for (const int id : {4, 5, 7, 15, 22, 24, 31, 36, 43}) {
+        for (const int brokerType : {2, 3, 6, 7})
+            QTest::addRow("identity %d, broker type %d", id, brokerType) << id << brokerType;
+    }
+}
+
+void tst_PriceTypeCell::listsByFlagsMarketAndState()
+{
+    QFETCH(int, id);
+    QFETCH(int, brokerType);
+    Q q;
+    q.id = id;
+    q.brokerType = brokerType;
+    for (int bits = 0; bits < 4; ++bits) {
+        q.sloSellModule = bits & 1;
+        q.marketPriceModule = bits & 2;
+        const ModuleGuard on({q.sloSellModule ? modules::kSloSellFixedPrice : "",
+                              q.marketPriceModule ? modules::kStockMarketPrice : ""});
+        for (const int trader : {1, 4, 4096}) {
+            q.traderType = trader;
+            q.autoBook = trader != 4096;
+            BaseTableProbe table({id, brokerType, trader, q.autoBook});
+            for (q.flags = 0; q.flags < 128; q.flags += (q.flags < 32 ? 1 : 9)) {
+                for (q.market = -1; q.market <= 6; ++q.market) {
+                    for (const auto& state : {std::pair(0, -1), std::pair(0, 21), std::pair(1, 0), std::pair(4, 21)}) {
+                        table.m_orderType = ttservice::EOrderType(q.orderType = state.first);
+                        table.m_operationType = ttservice::EOperationType(q.operationType = state.second);
+                        QStringList labels;
+                        QVector<QVariant> values;
+                        table.doResetPriceType(labels, values, q.flags, q.market, false, QString());
+                        if (zipped(labels, values) != expectedPriceTypes(q)) {
+                            qInfo() << "flags" << q.flags << "market" << q.market << "order" << q.orderType
+                                    << "operation" << q.operationType << "trader" << trader << "modules" << bits;
+                            QCOMPARE(zipped(labels, values), expectedPriceTypes(q));
+                        }
+                    }
+                }
+            }
+        }
+    }
+}
+
+void tst_PriceTypeCell::buildersOnlyAppend()
+{
+    BaseTableProbe table;
+    QStringList labels = {text("前")};
+    QVector<QVariant> values = {QVariant(-7)};
+    const QString before = priceTypes(table);
+    table.doResetPriceType(labels, values, 4, 0, false, text("对手价"));
+    QCOMPARE(zipped(labels, values).join(QLatin1Char(' ')), text("前=-7 指定价=11 挂单价=13 对手价=14"));
+    QCOMPARE(priceTypes(table), before);
+}
+
+void tst_PriceTypeCell::applyingLoadsTheListsIntoTheCell()
+{
+    BaseTableProbe table;
+    table.setPriceType(ttservice::PRTP_BUY5);
+    QStringList labels;
+    QVector<QVariant> values;
+    table.doResetPriceType(labels, values, 4, 0, true, QString());
+    QCOMPARE(priceTypes(table), text("*指定价=11 挂单价=13 对手价=14"));
+
+    BaseTableProbe withoutEntries({36});
+    const QString before = priceTypes(withoutEntries);
+    QStringList none;
+    QVector<QVariant> noValues;
+    withoutEntries.doResetPriceType(none, noValues, 0, 0, true, QString());
+    QCOMPARE(none, QStringList());
+    QCOMPARE(priceTypes(withoutEntries), before);
+}
+
+void tst_PriceTypeCell::securitiesLendingSellIsLimitedToTheSpecifiedPrice()
+{
+    for (const int id : {5, 7, 15, 36, 43, 50}) {
+        for (const int brokerType : {2, 3, 6, 7}) {
+            BaseTableProbe table({id, brokerType});
+            const QString before = priceTypes(table);
+            const ModuleGuard on({modules::kSloSellFixedPrice});
+            table.setOperationType(ttservice::OPT_SLO_SELL);
+            QCOMPARE(priceTypes(table), text("*指定价=11"));
+
+            QStringList labels;
+            QVector<QVariant> values;
+            BaseTableProbe untouched({id, brokerType});
+            untouched.m_operationType = ttservice::OPT_SLO_SELL;
+            untouched.doResetPriceType(labels, values, 127, 3, true, QString());
+            QCOMPARE(zipped(labels, values), QStringList({text("指定价=11")}));
+            QCOMPARE(priceTypes(untouched), before);
+        }
+    }
+    BaseTableProbe moduleOff({5, 3});
+    const QString before = priceTypes(moduleOff);
+    moduleOff.setOperationType(ttservice::OPT_SLO_SELL);
+    QCOMPARE(priceTypes(moduleOff), before);
+}
+
+void tst_PriceTypeCell::afterHoursPricingNeedsMarket3PlainOrderAndIdentity_data()
+{
+    QTest::addColumn<int>("id");
+    for (const int id : {4, 5, 7, 15, 30, 31, 32, 36})
+        QTest::addRow("identity %d", id) << id;
+}
+
+void tst_PriceTypeCell::afterHoursPricingNeedsMarket3PlainOrderAndIdentity()
+{
+    QFETCH(int, id);
+    BaseTableProbe table({id});
+    for (int market = -1; market <= 7; ++market) {
+        for (int orderType = 0; orderType <= 3; ++orderType) {
+            table.m_orderType = ttservice::EOrderType(orderType);
+            QStringList labels;
+            QVector<QVariant> values;
+            table.doResetPriceType(labels, values, 127, market, false, QString());
+            QCOMPARE(labels.contains(text("盘后定价")), market == 3 && orderType == 0 && (id == 5 || id == 31));
+        }
+    }
+    QVERIFY(!priceTypes(table).contains(text("盘后定价")));
+}
+
+void tst_PriceTypeCell::bestFiveLevelsHaveTwoValues_data()
+{
+    QTest::addColumn<int>("market");
+    QTest::addColumn<int>("value");
+    for (const auto& row : {std::pair(1, 42), std::pair(2, 47), std::pair(3, 42), std::pair(4, 47), std::pair(5, 47)})
+        QTest::addRow("market %d", row.first) << row.first << row.second;
+}
+
+void tst_PriceTypeCell::bestFiveLevelsHaveTwoValues()
+{
+    QFETCH(int, market);
+    QFETCH(int, value);
+    const ModuleGuard on({modules::kStockMarketPrice});
+    BaseTableProbe table;
+    QStringList labels;
+    QVector<QVariant> values;
+    table.doResetPriceType(labels, values, 0, market, false, QString());
+    const int at = labels.indexOf(text("最优五档即成剩撤"));
+    QVERIFY(at >= 0);
+    QCOMPARE(values.value(at).toInt(), value);
+    QCOMPARE(labels.lastIndexOf(text("最优五档即成剩撤")), at);
+}
+
+void tst_PriceTypeCell::optionTableOfIdentity43OffersNoMarketOrders()
+{
+    BaseTableProbe table({43, 6});
+    QStringList labels;
+    QVector<QVariant> values;
+    table.doResetPriceType(labels, values, 31, 5, false, QString());
+    QVERIFY(values.contains(26));
+    for (const int marketOrder : {27, 28, 29})
+        QVERIFY(!values.contains(marketOrder));
+}
+
+void tst_PriceTypeCell::bookLevelsByBrokerType()
+{
+    for (const int brokerType : {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 99, 1001, 1002}) {
+        BaseTableProbe table({5, brokerType});
+        QStringList labels;
+        QVector<QVariant> values;
+        table.genPriceTypeBySubType(labels, values);
+        QCOMPARE(zipped(labels, values).join(QLatin1Char(' ')),
+                 brokerType == 6 ? text("卖①价=4 最新价=5 买①价=6") : text(kFullLevels));
+    }
+}
+
+void tst_PriceTypeCell::rebuildByIdentity_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("rebuilt");
+    for (const int id : {36, 38, 39})
+        QTest::addRow("identity %d is refilled", id) << id << text("*挂单价=13 对手价=14 ") + text(kFullLevels);
+    for (const int id : {0, 5, 8, 10, 15, 23, 31, 35, 37, 40, 43})
+        QTest::addRow("identity %d keeps its list", id) << id << QString();
+}
+
+void tst_PriceTypeCell::rebuildByIdentity()
+{
+    QFETCH(int, id);
+    QFETCH(QString, rebuilt);
+    BaseTableProbe table({id, 3});
+    table.setPriceType(ttservice::PRTP_BUY2);
+    const QString before = priceTypes(table);
+    table.resetPriceType();
+    QCOMPARE(priceTypes(table), rebuilt.isEmpty() ? before : rebuilt);
+}
+
+void tst_PriceTypeCell::compositeTableWithoutItsModuleIsEmptied()
+{
+    for (const int id : {7, 9, 22, 24}) {
+        BaseTableProbe table({id});
+        table.resetPriceType();
+        QCOMPARE(priceTypes(table), QString());
+        QVERIFY(!table.m_table->itemData(TC::OCF_PriceType).isValid());
+    }
+    for (const int brokerType : {7, 11}) {
+        BaseTableProbe table({7, brokerType});
+        const QString before = priceTypes(table);
+        table.resetPriceType();
+        QCOMPARE(priceTypes(table), before);
+    }
+}
+
+void tst_PriceTypeCell::compositeTableWithItsModule()
+{
+    const ModuleGuard on({modules::kComposeFullPriceType});
+    const QString plain = text("挂单价=13 对手价=14 ") + text(kFullLevels);
+    struct Case
+    {
+        int id, brokerType, traderType, orderType;
+        QString list;
+    };
+    const QString closing = text("*挂单价=13 对手价=14 昨收价=16 ") + text(kFullLevels);
+    const QVector<Case> cases = {
+        {7, 2, 2, 0, QLatin1Char('*') + plain},
+        {7, 2, 4, 0, closing},
+        {7, 3, 4, 0, QLatin1Char('*') + plain},
+        {7, 2, 4096, 1, QLatin1Char('*') + plain},
+        {9, 2, 4, 1, QLatin1Char('*') + plain},
+        {24, 2, 1, 0, QLatin1Char('*') + plain},
+        {22, 2, 1, 0, text("*模型价=11 ") + plain},
+        {7, 2, 4, 2, QString()},
+        {9, 2, 4, 5, QString()},
+    };
+    for (const Case& c : cases) {
+        BaseTableProbe table({c.id, c.brokerType, c.traderType});
+        table.m_table->setComboData(TC::OCF_PriceType, c.id == 22 ? 11 : 13);
+        table.m_orderType = ttservice::EOrderType(c.orderType);
+        table.resetPriceType();
+        QCOMPARE(priceTypes(table), c.list);
+    }
+}
+
+void tst_PriceTypeCell::rememberedChoiceSurvivesARebuild()
+{
+    BaseTableProbe table({7});
+    table.setPriceType(ttservice::PRTP_BUY3);
+    {
+        const ModuleGuard on({modules::kComposeFullPriceType});
+        table.resetPriceType();
+        QCOMPARE(chosen(table), 8);
+        table.m_orderType = ttservice::EOrderType(1);
+        table.resetPriceType();
+        QCOMPARE(chosen(table), 8);
+    }
+    table.resetPriceType();
+    QCOMPARE(chosen(table), -1000);
+    const ModuleGuard on({modules::kComposeFullPriceType});
+    table.resetPriceType();
+    QCOMPARE(chosen(table), 0);
+}
+
+void tst_PriceTypeCell::priceTypeIsChosenWithoutEventAndNotFromOutsideTheList()
+{
+    EventLog host;
+    TableSetup setup;
+    setup.parent = &host;
+    const auto table = new BaseTableProbe(setup);
+    table->setPriceType(ttservice::PRTP_COUNTERPART);
+    QCOMPARE(chosen(*table), 14);
+    QCOMPARE(int(table->priceType()), 14);
+    QCOMPARE(table->getCurrentPriceTypeName(), text("对手价"));
+    QCOMPARE(table->m_pendingPriceType, 14);
+
+    table->setPriceType(ttservice::EPriceType(12345));
+    QCOMPARE(chosen(*table), 14);
+    QCOMPARE(int(table->priceType()), 14);
+    QCOMPARE(table->m_pendingPriceType, 12345);
+    QCOMPARE(table->hooks, QStringList());
+    QCOMPARE(host.take(), QStringList());
+}
+
+void tst_PriceTypeCell::selectingAPriceTellsTheHost()
+{
+    EventLog host;
+    TableSetup setup;
+    setup.parent = &host;
+    const auto table = new BaseTableProbe(setup);
+    table->selectPrice(ttservice::PRTP_SELL3);
+    QCOMPARE(chosen(*table), 2);
+    QCOMPARE(table->m_table->itemData(TC::OCF_InitialQuote), QVariant(2));
+    QCOMPARE(int(table->priceType()), 2);
+    QCOMPARE(table->hooks, QStringList({QStringLiteral("save")}));
+    QCOMPARE(host.take(), QStringList({eventLine(129, 5, 0)}));
+    QVERIFY(isHidden(*table->m_table, TC::OCF_InitialQuote));
+
+    table->selectPrice(ttservice::EPriceType(777));
+    QCOMPARE(chosen(*table), 2);
+    QCOMPARE(int(table->priceType()), 777);
+}
+
+void tst_PriceTypeCell::namesFollowTheCell()
+{
+    BaseTableProbe table;
+    QCOMPARE(table.m_priceTypeName, QString());
+    QCOMPARE(table.getCurrentPriceTypeName(), text("指定价"));
+    table.m_table->setComboData(TC::OCF_PriceType, 6);
+    QCOMPARE(table.getCurrentPriceTypeName(), text("指定价"));
+    QCOMPARE(int(table.priceType()), 11);
+    table.updateCurrentPriceTypeName();
+    QCOMPARE(table.getCurrentPriceTypeName(), text("买①价"));
+    QCOMPARE(int(table.priceType()), 6);
+}
+
+void tst_PriceTypeCell::namesOfAlgorithmsAreEmpty()
+{
+    for (const int orderType : {4, 5, 12, 13}) {
+        BaseTableProbe table;
+        table.setOrderType(ttservice::EOrderType(orderType));
+        QCOMPARE(table.getCurrentPriceTypeName(), QString());
+        table.updateCurrentPriceTypeName();
+        QCOMPARE(int(table.priceType()), 12);
+    }
+}
+
+void tst_PriceTypeCell::storedNameStaysUntilItIsEmptiedOrReplaced()
+{
+    BaseTableProbe table;
+    QCOMPARE(table.getCurrentPriceTypeName(), text("指定价"));
+    table.setOrderType(ttservice::EOrderType(4));
+    QCOMPARE(table.getCurrentPriceTypeName(), text("指定价"));
+    table.updateCurrentPriceTypeName();
+    QCOMPARE(table.getCurrentPriceTypeName(), QString());
+}
+
+void tst_PriceTypeCell::emptiedCellMakesThePriceTypeZero()
+{
+    BaseTableProbe table({7});
+    table.resetPriceType();
+    QCOMPARE(int(table.priceType()), 13);
+    table.updateCurrentPriceTypeName();
+    QCOMPARE(int(table.priceType()), 0);
+    QCOMPARE(table.m_priceTypeName, QString());
+}
+
+void tst_PriceTypeCell::stockCodeStoresThenRebuilds()
+{
+    BaseTableProbe composite({7});
+    composite.setStockCode(QStringLiteral("000001"));
+    QCOMPARE(composite.getStockCode(), QStringLiteral("000001"));
+    QCOMPARE(priceTypes(composite), QString());
+
+    BaseTableProbe closing({36});
+    closing.setPriceType(ttservice::PRTP_BUY2);
+    closing.setStockCode(QString());
+    QCOMPARE(chosen(closing), 13);
+}
+
+void tst_PriceTypeCell::tableWithoutPriceTypeCellKeepsItsState()
+{
+    BaseTableProbe table({5, 1});
+    table.setPriceType(ttservice::PRTP_BUY1);
+    table.updateCurrentPriceTypeName();
+    table.resetPriceType();
+    QCOMPARE(int(table.priceType()), -1);
+    QCOMPARE(table.getCurrentPriceTypeName(), QString());
+    table.selectPrice(ttservice::PRTP_BUY1);
+    QCOMPARE(int(table.priceType()), 6);
+}
+
+QTEST_MAIN(tst_PriceTypeCell)
+#include "tst_PriceTypeCell.moc"
