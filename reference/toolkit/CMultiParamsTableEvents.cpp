@@ -36,6 +36,15 @@ CMultiParamsTable::CMultiParamsTable(QWidget* parent, bool fontScale)
 
 CMultiParamsTable::~CMultiParamsTable() = default;
 
+bool CMultiParamsTable::event(QEvent* event)
+{
+    const bool handled = CEventWidgetT<QTableView>::event(event);
+    // An application's style sheet may put a frame and padding around any scroll area. Qt lays the area out in here.
+    if (viewport()->geometry() != rect())
+        viewport()->setGeometry(rect());
+    return handled;
+}
+
 bool CMultiParamsTable::viewportEvent(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip) {

@@ -38,7 +38,8 @@ CMultiParamsTablePrivate::CMultiParamsTablePrivate(CMultiParamsTable* table, boo
 
 CMultiParamsTablePrivate::~CMultiParamsTablePrivate() = default;
 
-// The headers stay hidden: they hold row heights and column widths for whoever asks Qt's own way.
+// The headers stay hidden: they hold row heights and column widths for whoever asks Qt's own way. What they would tell
+// the table is taken from them, since each of their changes costs a layout and a paint of its own.
 void CMultiParamsTablePrivate::setUpView()
 {
     m_table->setFrameShape(QFrame::NoFrame);
@@ -62,6 +63,8 @@ void CMultiParamsTablePrivate::setUpView()
     m_table->verticalHeader()->setMinimumSectionSize(0);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(m_metrics.rowHeight);
+    m_table->horizontalHeader()->disconnect(m_table);
+    m_table->verticalHeader()->disconnect(m_table);
     m_table->setModel(m_model);
     connectModel();
 }
@@ -70,6 +73,10 @@ void CMultiParamsTablePrivate::connectModel()
 {
     m_model->setToolTipSource([this](const CellItem& cell) { return toolTipOf(cell); });
     QObject::connect(m_model, &CellModel::filterChanged, m_table, [this] { filterChanged(); });
+    QObject::connect(m_model, &CellModel::rowsReplaced, m_table, [this] {
+        layout();
+        m_table->viewport()->update();
+    });
     QObject::connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, m_table,
                      [this](int column, int, int width) {
                          if (column != CellModel::LabelColumn || m_placingColumns)

@@ -206,7 +206,11 @@ void CellModel::flush()
     m_flushing = true;
     if (m_rowsDirty) {
         m_rowsDirty = false;
-        replaceRows(shownPositions());
+        std::vector<int> rows = shownPositions();
+        if (rows != m_rows) {
+            replaceRows(rows);
+            Q_EMIT rowsReplaced();
+        }
     }
     if (m_valuesDirty) {
         m_valuesDirty = false;
@@ -227,7 +231,7 @@ std::vector<int> CellModel::shownPositions() const
 }
 
 // Both lists are sorted. Rows that stay keep their indexes, so that the current row and an open editor stay too.
-void CellModel::replaceRows(std::vector<int> rows)
+void CellModel::replaceRows(const std::vector<int>& rows)
 {
     const auto stays = [&rows](int position) { return std::binary_search(rows.begin(), rows.end(), position); };
     for (int last = static_cast<int>(m_rows.size()) - 1; last >= 0; --last) {

@@ -115,10 +115,13 @@ Q_SIGNALS:
     /// What the filter offers, ticks or allows has changed. Sent at once, never for a change without effect.
     void filterChanged();
 
+    /// Rows have come or gone: sent once a batch, after the signals of the single rows.
+    void rowsReplaced();
+
 private:
     void schedule();
     std::vector<int> shownPositions() const;
-    void replaceRows(std::vector<int> rows);
+    void replaceRows(const std::vector<int>& rows);
     void announceValues();
 
     std::vector<std::unique_ptr<CMultiParamsTableItem>> m_items;
