@@ -69,10 +69,9 @@ protected:
     /// Adds a record for the current order type when there is none, and loads it.
     void reloadParam() override;
 
-private:
-    QString m_storedCode;
-    ttservice::COrderSetting m_workingSetting;
-    QMap<int, ttservice::COrderSetting> m_settingsByOrderType;
+    QString m_storedCode;                                      ///< never written in this edition
+    ttservice::COrderSetting m_workingSetting;                 ///< what a new record starts as
+    QMap<int, ttservice::COrderSetting> m_settingsByOrderType; ///< only ever grows
 };
 
 } // namespace TC
