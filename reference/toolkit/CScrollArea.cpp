@@ -86,6 +86,8 @@ void CScrollArea::themeChanged()
 
 void CScrollArea::scaleChanged()
 {
+    // The bar is told after its area, and what lays it out remembers its old size.
+    d->bar->updateGeometry();
     QEvent layout(QEvent::LayoutRequest);
     QCoreApplication::sendEvent(this, &layout);
     viewport()->update();

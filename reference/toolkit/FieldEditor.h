@@ -1,11 +1,13 @@
 #pragma once
 
+#include <WQ/WqExport.h>
+
 #include <QLineEdit>
 
 namespace WQ {
 
 /// The line in which a single cell is edited. It looks like the toolkit whatever the application's style sheet says.
-class FieldEditor : public QLineEdit
+class WQ_EXPORT FieldEditor : public QLineEdit
 {
     Q_OBJECT
 public:

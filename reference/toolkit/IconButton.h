@@ -1,6 +1,7 @@
 #pragma once
 
 #include <WQ/CUiResourceChangeHandler.h>
+#include <WQ/WqExport.h>
 
 #include <QAbstractButton>
 
@@ -8,7 +9,7 @@ namespace WQ {
 
 /// A small button of the toolkit's own that shows an image: closes a dialog, opens a list, asks for help. It sends no
 /// toolkit event.
-class IconButton : public QAbstractButton, public CUiResourceChangeHandler
+class WQ_EXPORT IconButton : public QAbstractButton, public CUiResourceChangeHandler
 {
     Q_OBJECT
 public:

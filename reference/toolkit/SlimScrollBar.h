@@ -1,13 +1,14 @@
 #pragma once
 
 #include <WQ/CUiResourceChangeHandler.h>
+#include <WQ/WqExport.h>
 
 #include <QScrollBar>
 
 namespace WQ {
 
 /// The toolkit's scroll bar: a handle on the ground of what it scrolls, nothing else.
-class SlimScrollBar : public QScrollBar, public CUiResourceChangeHandler
+class WQ_EXPORT SlimScrollBar : public QScrollBar, public CUiResourceChangeHandler
 {
     Q_OBJECT
 public:
