@@ -1,6 +1,7 @@
 #include "workbench/EventPanel.h"
 
 #include "workbench/EventLogModel.h"
+#include "workbench/HostTable.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/Vocabulary.h"
 
@@ -11,14 +12,11 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QFontMetrics>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSortFilterProxyModel>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include <array>
@@ -31,51 +29,14 @@ namespace {
 constexpr std::array<const char*, EventLogModel::ColumnCount - 1> kColumnSamples = {
     "00000", "00:00:00", "1061 price type applied ", "0x4000000 table", "11 parameters", "parameters"};
 
-/// A view that copies what is selected.
-class LogView : public QTableView
+void fitColumns(QTableView& view)
 {
-public:
-    explicit LogView(EventPanel* panel)
-        : QTableView(panel)
-        , m_panel(panel)
-    {
+    const QFontMetrics metrics = view.fontMetrics();
+    for (int column = 0; column < static_cast<int>(kColumnSamples.size()); ++column) {
+        const QString sample = QLatin1String(kColumnSamples[static_cast<std::size_t>(column)]);
+        view.setColumnWidth(column, metrics.horizontalAdvance(sample) + metrics.height());
     }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (event->matches(QKeySequence::Copy))
-            m_panel->copy();
-        else
-            QTableView::keyPressEvent(event);
-    }
-
-    void changeEvent(QEvent* event) override
-    {
-        QTableView::changeEvent(event);
-        if (event->type() == QEvent::FontChange || event->type() == QEvent::Polish)
-            fitColumns();
-    }
-
-    void showEvent(QShowEvent* event) override
-    {
-        QTableView::showEvent(event);
-        fitColumns();
-    }
-
-private:
-    void fitColumns()
-    {
-        const QFontMetrics metrics = fontMetrics();
-        verticalHeader()->setDefaultSectionSize(metrics.height() + metrics.height() / 3);
-        for (int column = 0; model() && column < static_cast<int>(kColumnSamples.size()); ++column) {
-            const QString sample = QLatin1String(kColumnSamples[static_cast<std::size_t>(column)]);
-            setColumnWidth(column, metrics.horizontalAdvance(sample) + metrics.height());
-        }
-    }
-
-    EventPanel* m_panel;
-};
+}
 
 QString rowText(const QAbstractItemModel& model, int row)
 {
@@ -91,7 +52,7 @@ EventPanel::EventPanel(QWidget* parent)
     : QWidget(parent)
     , m_model(new EventLogModel(EventLogModel::kCapacity, this))
     , m_filtered(new QSortFilterProxyModel(this))
-    , m_view(new LogView(this))
+    , m_view(new HostTable(this))
     , m_filter(new QLineEdit)
     , m_pause(new QCheckBox)
     , m_count(new QLabel)
@@ -114,16 +75,8 @@ EventPanel::EventPanel(QWidget* parent)
 void EventPanel::createView()
 {
     m_view->setModel(m_filtered);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_view->setAlternatingRowColors(true);
-    m_view->setShowGrid(false);
-    m_view->setWordWrap(false);
-    m_view->setTabKeyNavigation(false);
-    m_view->verticalHeader()->hide();
-    m_view->horizontalHeader()->setHighlightSections(false);
-    m_view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_view->horizontalHeader()->setStretchLastSection(true);
+    m_view->setFitColumns([this] { fitColumns(*m_view); });
+    connect(m_view, &HostTable::copyRequested, this, &EventPanel::copy);
     m_texts->keep([this] { m_view->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Events"))); });
     layout()->addWidget(m_view);
 }

@@ -6,11 +6,11 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QSortFilterProxyModel;
-class QTableView;
 
 namespace workbench {
 
 class EventLogModel;
+class HostTable;
 class LanguageTexts;
 
 /// The list of the events that arrived, with filter, pause, clear and copy.
@@ -39,7 +39,7 @@ private:
 
     EventLogModel* m_model;
     QSortFilterProxyModel* m_filtered;
-    QTableView* m_view;
+    HostTable* m_view;
     QLineEdit* m_filter;
     QCheckBox* m_pause;
     QLabel* m_count;

@@ -1,5 +1,7 @@
 #include "workbench/FlatStyle.h"
 
+#include "reference/toolkit/Resources.h"
+
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -11,6 +13,34 @@ namespace {
 constexpr int kTabUnderline = 2;
 constexpr int kScrollBarWidth = 8;
 constexpr int kSmallestHandle = 24;
+constexpr int kArrowWidth = 20;
+constexpr int kFieldMargin = 3;
+
+int scaledBy(int size)
+{
+    return WQ::resources::scaled(size, WQ::resources::scale());
+}
+
+/// A handle without buttons at its ends.
+QRect scrollBarRect(const QStyleOptionSlider& bar, QStyle::SubControl part)
+{
+    if (part == QStyle::SC_ScrollBarAddLine || part == QStyle::SC_ScrollBarSubLine)
+        return {};
+    if (part == QStyle::SC_ScrollBarGroove)
+        return bar.rect;
+    const bool isVertical = bar.orientation == Qt::Vertical;
+    const int room = isVertical ? bar.rect.height() : bar.rect.width();
+    const double all = double(bar.maximum) - bar.minimum + bar.pageStep;
+    const int length = qBound(qMin(room, kSmallestHandle), int(room * (bar.pageStep / qMax(1.0, all))), room);
+    const int start =
+        QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition, room - length, bar.upsideDown);
+    const bool isAfter = part == QStyle::SC_ScrollBarAddPage;
+    const bool isBefore = part == QStyle::SC_ScrollBarSubPage;
+    const int from = isAfter ? start + length : isBefore ? 0 : start;
+    const int size = isAfter ? room - from : isBefore ? start : length;
+    return isVertical ? QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), size)
+                      : QRect(bar.rect.left() + from, bar.rect.top(), size, bar.rect.height());
+}
 
 QColor frameColor(const QStyleOption& option)
 {
@@ -140,6 +170,10 @@ void FlatStyle::drawControl(ControlElement element, const QStyleOption* option, 
         if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option))
             drawTab(*painter, *tab);
         return;
+    case CE_MenuBarItem:
+        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
+            drawMenuBarItem(*item, *painter);
+        return;
     case CE_MenuBarEmptyArea:
         return painter->fillRect(option->rect, option->palette.color(QPalette::Window));
     default:
@@ -158,6 +192,14 @@ void FlatStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         drawScrollBar(*bar, *painter, widget);
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void FlatStyle::drawMenuBarItem(const QStyleOptionMenuItem& item, QPainter& painter) const
+{
+    const bool chosen = item.state & (State_Selected | State_Sunken) && item.state & State_Enabled;
+    painter.fillRect(item.rect, item.palette.color(chosen ? QPalette::Highlight : QPalette::Window));
+    drawItemText(&painter, item.rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine,
+                 item.palette, item.state & State_Enabled, item.text, QPalette::WindowText);
 }
 
 void FlatStyle::drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const
@@ -191,32 +233,38 @@ void FlatStyle::drawScrollBar(const QStyleOptionSlider& option, QPainter& painte
 QRect FlatStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                                 const QWidget* widget) const
 {
-    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_ScrollBar || !bar)
-        return QProxyStyle::subControlRect(control, option, part, widget);
-    if (part == SC_ScrollBarAddLine || part == SC_ScrollBarSubLine)
-        return {};
-    if (part == SC_ScrollBarGroove)
-        return bar->rect;
-    const bool isVertical = bar->orientation == Qt::Vertical;
-    const int room = isVertical ? bar->rect.height() : bar->rect.width();
-    const double all = double(bar->maximum) - bar->minimum + bar->pageStep;
-    const int length = qBound(qMin(room, kSmallestHandle), int(room * (bar->pageStep / qMax(1.0, all))), room);
-    const int start =
-        sliderPositionFromValue(bar->minimum, bar->maximum, bar->sliderPosition, room - length, bar->upsideDown);
-    const int from = part == SC_ScrollBarAddPage ? start + length : part == SC_ScrollBarSubPage ? 0 : start;
-    const int size = part == SC_ScrollBarAddPage ? room - from : part == SC_ScrollBarSubPage ? start : length;
-    return isVertical ? QRect(bar->rect.left(), bar->rect.top() + from, bar->rect.width(), size)
-                      : QRect(bar->rect.left() + from, bar->rect.top(), size, bar->rect.height());
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option); bar && control == CC_ScrollBar)
+        return scrollBarRect(*bar, part);
+    const int arrow = scaledBy(kArrowWidth);
+    if (control == CC_ComboBox && part == SC_ComboBoxArrow)
+        return option->rect.adjusted(option->rect.width() - arrow, 0, 0, 0);
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+        return option->rect.adjusted(kFieldMargin, 1, -arrow, -1);
+    if (control == CC_SpinBox && part == SC_SpinBoxEditField)
+        return option->rect.adjusted(kFieldMargin, 1, -arrow, -1);
+    if (control == CC_SpinBox && (part == SC_SpinBoxUp || part == SC_SpinBoxDown)) {
+        const QRect both = option->rect.adjusted(option->rect.width() - arrow, 1, 0, -1);
+        const int half = both.height() / 2;
+        return part == SC_SpinBoxUp ? both.adjusted(0, 0, 0, half - both.height()) : both.adjusted(0, half, 0, 0);
+    }
+    return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
+/// What Qt draws beside texts grows with them.
 int FlatStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
     case PM_DockWidgetSeparatorExtent:
         return 5;
     case PM_ScrollBarExtent:
-        return kScrollBarWidth;
+        return scaledBy(kScrollBarWidth);
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_CheckBoxLabelSpacing:
+    case PM_SmallIconSize:
+    case PM_TabBarTabHSpace:
+    case PM_TabBarTabVSpace:
+        return scaledBy(QProxyStyle::pixelMetric(metric, option, widget));
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }

@@ -3,6 +3,7 @@
 #include <QProxyStyle>
 
 class QStyleOptionComboBox;
+class QStyleOptionMenuItem;
 class QStyleOptionSlider;
 class QStyleOptionSpinBox;
 
@@ -30,6 +31,7 @@ public:
 
 private:
     void drawSpinBox(const QStyleOptionSpinBox& option, QPainter& painter, const QWidget* widget) const;
+    void drawMenuBarItem(const QStyleOptionMenuItem& item, QPainter& painter) const;
     void drawScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QWidget* widget) const;
     void drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const;
 };

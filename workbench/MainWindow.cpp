@@ -5,6 +5,7 @@
 #include "workbench/EventPanel.h"
 #include "workbench/Language.h"
 #include "workbench/LanguageTexts.h"
+#include "workbench/LookForm.h"
 #include "workbench/OrderControls.h"
 #include "workbench/SetupForm.h"
 #include "workbench/TableBench.h"
@@ -15,13 +16,19 @@
 #include "reference/toolkit/Resources.h"
 
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
+#include <TC/DataCenter.h>
+#include <WQ/Formatting.h>
+#include <ttservice/CAccountInfoV2.h>
 
 #include <QCoreApplication>
 #include <QDockWidget>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 namespace workbench {
 
@@ -32,22 +39,44 @@ constexpr int kSetupWidth = 280;
 constexpr int kControlsWidth = 380;
 constexpr int kEventsHeight = 210;
 
-/// The accounts that the credit table may offer: its host fills the combo.
+/// The IDs of the credit accounts: the table knows none, its host fills the combo.
 QStringList creditAccounts()
 {
-    return {QStringLiteral("88005678"), QStringLiteral("88001234")};
+    QStringList ids;
+    for (const std::string& key : reference::accountKeys()) {
+        const auto account = TC::DataCenter::instance()->getAccountInfo(key);
+        if (account && account->brokerType == ttservice::BROKER_TYPE_CREDIT)
+            ids << WQ::sToQs(account->accountId);
+    }
+    return ids;
 }
 
-QScrollArea* scrolled(QWidget* content)
+/// Scrolls its form up and down only: it is never narrower than the form needs, at any scale or language.
+class FormScroll : public QScrollArea
 {
-    auto* area = new QScrollArea;
-    area->setWidget(content);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    content->setMinimumWidth(content->minimumSizeHint().width());
-    return area;
-}
+public:
+    explicit FormScroll(QWidget* form)
+    {
+        setWidget(form);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        const int bar = verticalScrollBar()->sizeHint().width();
+        return {widget()->minimumSizeHint().width() + bar, QScrollArea::minimumSizeHint().height()};
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
 
 } // namespace
 
@@ -56,6 +85,7 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
     , m_texts(new LanguageTexts(this))
     , m_bench(new TableBench)
     , m_form(new SetupForm)
+    , m_look(new LookForm)
     , m_controls(new OrderControls)
     , m_events(new EventPanel)
     , m_tasks(new TaskPanel)
@@ -99,15 +129,29 @@ void MainWindow::createCentre()
     connect(m_bench, &TableBench::rebuilt, m_controls, &OrderControls::setTable);
 }
 
+QWidget* MainWindow::createSetup()
+{
+    auto* both = new QWidget;
+    auto* layout = new QVBoxLayout(both);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_look);
+    layout->addWidget(m_form, 1);
+    connect(m_look, &LookForm::themeChosen, this, &MainWindow::chooseTheme);
+    connect(m_look, &LookForm::scaleChosen, this, &MainWindow::chooseScale);
+    connect(m_look, &LookForm::languageChosen, this, &MainWindow::chooseLanguage);
+    return both;
+}
+
 void MainWindow::createDocks()
 {
-    const auto setup =
-        addDock("setupDock", QT_TRANSLATE_NOOP("workbench", "Setup"), scrolled(m_form), Qt::LeftDockWidgetArea);
-    const auto controls = addDock("controlsDock", QT_TRANSLATE_NOOP("workbench", "Host calls"), scrolled(m_controls),
-                                  Qt::RightDockWidgetArea);
+    const auto setup = addDock("setupDock", QT_TRANSLATE_NOOP("workbench", "Setup"), new FormScroll(createSetup()),
+                               Qt::LeftDockWidgetArea);
+    const auto controls = addDock("controlsDock", QT_TRANSLATE_NOOP("workbench", "Host calls"),
+                                  new FormScroll(m_controls), Qt::RightDockWidgetArea);
     const auto tasks = addDock("tasksDock", QT_TRANSLATE_NOOP("workbench", "Tasks"), m_tasks, Qt::RightDockWidgetArea);
-    const auto credit =
-        addDock("creditDock", QT_TRANSLATE_NOOP("workbench", "Credit"), scrolled(m_credit), Qt::RightDockWidgetArea);
+    const auto credit = addDock("creditDock", QT_TRANSLATE_NOOP("workbench", "Credit"), new FormScroll(m_credit),
+                                Qt::RightDockWidgetArea);
     const auto events =
         addDock("eventsDock", QT_TRANSLATE_NOOP("workbench", "Events"), m_events, Qt::BottomDockWidgetArea);
     tabifyDockWidget(controls, tasks);
@@ -157,6 +201,7 @@ void MainWindow::chooseScale(double scale)
     setScale(scale);
     m_bench->scaleTable();
     m_credit->scaleTable();
+    tickChoices();
 }
 
 void MainWindow::chooseLanguage(const QString& language)

@@ -13,6 +13,7 @@ namespace workbench {
 class CreditPanel;
 class EventPanel;
 class LanguageTexts;
+class LookForm;
 class OrderControls;
 class PanelHost;
 class SetupForm;
@@ -60,6 +61,7 @@ protected:
 private:
     void createCentre();
     void createDocks();
+    QWidget* createSetup();
     QDockWidget* addDock(const char* name, const char* title, QWidget* content, Qt::DockWidgetArea area);
     void listenTo(PanelHost* host);
     void onEvent(int event, int a, int b, const QString& text, void* payload);
@@ -80,6 +82,7 @@ private:
     LanguageTexts* m_texts;
     TableBench* m_bench;
     SetupForm* m_form;
+    LookForm* m_look;
     OrderControls* m_controls;
     EventPanel* m_events;
     TaskPanel* m_tasks;

@@ -3,6 +3,7 @@
 #include "workbench/EventPanel.h"
 #include "workbench/Language.h"
 #include "workbench/LanguageTexts.h"
+#include "workbench/LookForm.h"
 #include "workbench/TableBench.h"
 #include "workbench/Vocabulary.h"
 
@@ -14,32 +15,11 @@
 #include <QMenuBar>
 #include <QMessageBox>
 
-#include <array>
-
 namespace workbench {
 
 namespace {
 
 constexpr double kScaleStep = 0.25;
-
-struct ThemeRow
-{
-    const char* theme;
-    const char* name;
-};
-
-constexpr std::array kThemeNames = {
-    ThemeRow{"dark", QT_TRANSLATE_NOOP("workbench", "Dark")},
-    ThemeRow{"light", QT_TRANSLATE_NOOP("workbench", "Light")},
-};
-
-QString themeName(const QString& theme)
-{
-    for (const ThemeRow& row : kThemeNames)
-        if (theme == QLatin1String(row.theme))
-            return translated(row.name);
-    return theme;
-}
 
 } // namespace
 
@@ -174,6 +154,7 @@ void MainWindow::createHelpMenu()
 
 void MainWindow::tickChoices()
 {
+    m_look->refresh();
     for (QAction* action : qAsConst(m_choiceActions)) {
         const QString theme = action->property("theme").toString();
         const QString name = action->property("language").toString();

@@ -54,7 +54,7 @@ OrderControls::OrderControls(QWidget* parent)
     auto* title = new QLabel;
     title->setBuddy(m_flags);
     m_texts->keep(
-        [title] { title->setText(translated(QT_TRANSLATE_NOOP("workbench", "Cells that the host a&llows"))); });
+        [title] { title->setText(translated(QT_TRANSLATE_NOOP("workbench", "Cells allowed by the host (&flags)"))); });
     m_form->addRow(title);
     m_form->addRow(m_flags);
     addAnswers();

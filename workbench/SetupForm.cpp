@@ -45,7 +45,7 @@ SetupForm::SetupForm(QWidget* parent)
     , m_broker(addNumber(QT_TRANSLATE_NOOP("workbench", "&Broker type"), new NumberCombo(brokerTypes(), 2)))
     , m_trader(addNumber(QT_TRANSLATE_NOOP("workbench", "T&rader type"), new NumberCombo(traderTypes(), 1)))
     , m_modeButtons(addCheck(QT_TRANSLATE_NOOP("workbench", "Order-&mode buttons")))
-    , m_fontScale(addCheck(QT_TRANSLATE_NOOP("workbench", "Table follows the UI s&cale")))
+    , m_fontScale(addCheck(QT_TRANSLATE_NOOP("workbench", "Table follo&ws the UI scale")))
     , m_autoBook(addCheck(QT_TRANSLATE_NOOP("workbench", "&Automatic order book allowed")))
     , m_modules(new QListWidget)
 {
@@ -113,7 +113,7 @@ void SetupForm::addModules()
     }
     auto* label = new QLabel;
     label->setBuddy(m_modules);
-    m_texts->keep([label] { label->setText(translated(QT_TRANSLATE_NOOP("workbench", "&Feature modules"))); });
+    m_texts->keep([label] { label->setText(translated(QT_TRANSLATE_NOOP("workbench", "Feature modules (&y)"))); });
     m_form->addRow(label);
     m_form->addRow(m_modules);
     connect(m_modules, &QListWidget::itemChanged, this, [this] { Q_EMIT modulesChanged(modules()); });

@@ -1,5 +1,6 @@
 #include "workbench/TaskPanel.h"
 
+#include "workbench/HostTable.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/NumberCombo.h"
 #include "workbench/TaskDialogs.h"
@@ -7,10 +8,8 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableView>
 #include <QVBoxLayout>
 
 namespace workbench {
@@ -18,7 +17,7 @@ namespace workbench {
 TaskPanel::TaskPanel(QWidget* parent)
     : PanelHost(parent)
     , m_model(new TaskModel(this))
-    , m_view(new QTableView)
+    , m_view(new HostTable)
     , m_trader(new NumberCombo(traderTypes(), 1))
     , m_autoBook(new QCheckBox)
     , m_texts(new LanguageTexts(this))
@@ -34,17 +33,9 @@ TaskPanel::TaskPanel(QWidget* parent)
 void TaskPanel::createView(QVBoxLayout* layout)
 {
     m_view->setModel(m_model);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_view->setAlternatingRowColors(true);
-    m_view->setShowGrid(false);
-    m_view->setWordWrap(false);
-    m_view->setTabKeyNavigation(false);
-    m_view->verticalHeader()->hide();
-    m_view->horizontalHeader()->setHighlightSections(false);
-    m_view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_view->setFitColumns([this] { m_view->resizeColumnsToContents(); });
     m_texts->keep([this] { m_view->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Tasks"))); });
-    connect(m_view, &QTableView::activated, this, [this](const QModelIndex& index) { openTask(index.row()); });
+    connect(m_view, &HostTable::activated, this, [this](const QModelIndex& index) { openTask(index.row()); });
     layout->addWidget(m_view);
 }
 
@@ -71,7 +62,7 @@ void TaskPanel::createBar(QVBoxLayout* layout)
 void TaskPanel::setTasks(std::vector<ttservice::CCodeOrderParam> tasks)
 {
     m_model->setTasks(std::move(tasks));
-    m_view->resizeColumnsToContents();
+    m_view->fit();
 }
 
 void TaskPanel::openTask(int row)

@@ -7,11 +7,11 @@
 #include <vector>
 
 class QCheckBox;
-class QTableView;
 class QVBoxLayout;
 
 namespace workbench {
 
+class HostTable;
 class LanguageTexts;
 class NumberCombo;
 class TaskModel;
@@ -38,7 +38,7 @@ private:
     std::vector<ttservice::CCodeOrderParam> selectedTasks() const;
 
     TaskModel* m_model;
-    QTableView* m_view;
+    HostTable* m_view;
     NumberCombo* m_trader;
     QCheckBox* m_autoBook;
     LanguageTexts* m_texts;

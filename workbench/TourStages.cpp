@@ -18,6 +18,7 @@
 #include <boost/make_shared.hpp>
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QHBoxLayout>
 
 namespace workbench {
@@ -137,6 +138,9 @@ Stage stageWindow(const WindowStop& stop, const HostData& data)
     workbench.chooseLanguage(QLatin1String(stop.language));
     workbench.resize(QSize(stop.width, stop.height) * WQ::resources::scale());
     Stage stage = shown(std::move(window), 1.0);
+    if (auto* dock = workbench.findChild<QDockWidget*>(QLatin1String(stop.dock)))
+        dock->raise();
+    settle();
     if (stop.orderType < 0)
         return stage;
     TC::COrderParamBaseTable* table = workbench.bench()->table();

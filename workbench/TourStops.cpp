@@ -63,9 +63,11 @@ constexpr std::array kCreditStops = {
 };
 
 constexpr std::array kWindowStops = {
-    WindowStop{"window-en",    "en",    1,  1180, 760},
-    WindowStop{"window-zh",    "zh_CN", 1,  1180, 760},
-    WindowStop{"window-small", "en",    -1, 1024, 700},
+    WindowStop{"window-en",     "en",    "controlsDock", 1,  1180, 760},
+    WindowStop{"window-zh",     "zh_CN", "controlsDock", 1,  1180, 760},
+    WindowStop{"window-tasks",  "en",    "tasksDock",    1,  1180, 760},
+    WindowStop{"window-credit", "zh_CN", "creditDock",   1,  1180, 760},
+    WindowStop{"window-small",  "en",    "controlsDock", -1, 1024, 700},
 };
 
 // clang-format on

@@ -54,6 +54,7 @@ struct WindowStop
 {
     const char* name;
     const char* language;
+    const char* dock; ///< in front of its tabs
     int orderType;
     int width;
     int height;

@@ -332,10 +332,6 @@ A host for every table and dialog of the library.</source>
         <translation>允许编辑(&amp;N)</translation>
     </message>
     <message>
-        <source>Cells that the host a&amp;llows</source>
-        <translation>宿主允许的单元格(&amp;L)</translation>
-    </message>
-    <message>
         <source>Instrument &amp;code</source>
         <translation>合约代码(&amp;C)</translation>
     </message>
@@ -376,20 +372,12 @@ A host for every table and dialog of the library.</source>
         <translation>委托方式按钮(&amp;M)</translation>
     </message>
     <message>
-        <source>Table follows the UI s&amp;cale</source>
-        <translation>表格随界面缩放(&amp;C)</translation>
-    </message>
-    <message>
         <source>&amp;Automatic order book allowed</source>
         <translation>允许自动盘口(&amp;A)</translation>
     </message>
     <message>
         <source>Table c&amp;lass</source>
         <translation>表类(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Feature modules</source>
-        <translation>功能模块(&amp;F)</translation>
     </message>
     <message>
         <source>Account</source>
@@ -670,6 +658,30 @@ A host for every table and dialog of the library.</source>
         <translation>
             <numerusform>%n 个任务的篮子</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&amp;Display theme</source>
+        <translation>主题(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;UI scale</source>
+        <translation>界面缩放(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Cells allowed by the host (&amp;flags)</source>
+        <translation>宿主允许的单元格(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Table follo&amp;ws the UI scale</source>
+        <translation>表格随界面缩放(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Feature modules (&amp;y)</source>
+        <translation>功能模块(&amp;Y)</translation>
     </message>
 </context>
 </TS>
