@@ -54,21 +54,22 @@ int lineAt(const QByteArray& bytes, int offset)
 
 QByteArray readWhole(const QString& path, LoadReport& report)
 {
+    // A folder opens like a file on some systems, a pipe waits for its writer, a device never ends.
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) {
+        report.error = placed(path, 0, QStringLiteral("is no file"));
+        return {};
+    }
+    if (info.size() > kLargestFile) {
+        report.error = placed(path, 0, QStringLiteral("is too large"));
+        return {};
+    }
     QFile file(path);
-    // A folder opens like a file on some systems and reads as an empty one.
-    if (QFileInfo(path).isDir()) {
-        report.error = placed(path, 0, QStringLiteral("is a folder"));
-        return {};
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        report.error = placed(path, 0, QStringLiteral("cannot be read: %1").arg(file.errorString()));
-        return {};
-    }
-    const QByteArray bytes = file.read(kLargestFile + 1);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         report.error = placed(path, 0, QStringLiteral("cannot be read: %1").arg(file.errorString()));
-    else if (bytes.size() > kLargestFile)
-        report.error = placed(path, 0, QStringLiteral("is too large"));
     return bytes;
 }
 

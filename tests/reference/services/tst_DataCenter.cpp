@@ -133,14 +133,16 @@ private Q_SLOTS:
         QVERIFY(!m_report.isGood());
     }
 
-    void aMissingFileAndAFolderAreSaid()
+    void aMissingFileAFolderAndADeviceAreSaid()
     {
         const QString missing = m_folder.filePath(QStringLiteral("missing.json"));
         QTest::ignoreMessage(QtWarningMsg,
                              qUtf8Printable(missing + QLatin1String(": cannot be read: No such file or directory")));
         QVERIFY(!reference::loadAccounts(missing).isGood());
-        QTest::ignoreMessage(QtWarningMsg, qUtf8Printable(m_folder.path() + QLatin1String(": is a folder")));
+        QTest::ignoreMessage(QtWarningMsg, qUtf8Printable(m_folder.path() + QLatin1String(": is no file")));
         QVERIFY(!reference::loadAccounts(m_folder.path()).isGood());
+        QTest::ignoreMessage(QtWarningMsg, "/dev/zero: is no file");
+        QVERIFY(!reference::loadAccounts(QStringLiteral("/dev/zero")).isGood());
     }
 
     void theSameErrorIsWrittenToTheLogOnce()
