@@ -5,10 +5,7 @@
 #include "reference/toolkit/editors/CellInteraction.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QHeaderView>
-#include <QPaintEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -18,8 +15,6 @@
 namespace WQ {
 
 namespace {
-
-constexpr int kLongestToolTip = 1000;
 
 double tableScale(bool fontScale)
 {
@@ -242,6 +237,12 @@ void CMultiParamsTablePrivate::rowsChanged(int first, int last)
     }
 }
 
+void CMultiParamsTablePrivate::changedUnseen(const CellItem& cell)
+{
+    if (m_interaction)
+        m_interaction->cellChanged(cell);
+}
+
 void CMultiParamsTablePrivate::setFooterVisible(bool visible)
 {
     if (std::exchange(m_footerVisible, visible) == visible)
@@ -254,64 +255,6 @@ void CMultiParamsTablePrivate::setFooterVisible(bool visible)
 bool CMultiParamsTablePrivate::isFilterEnabled() const
 {
     return m_footerVisible && m_model->isEnabled() && !m_model->isExpanded() && m_table->isEnabled();
-}
-
-RowState CMultiParamsTablePrivate::rowState(const CellItem& cell) const
-{
-    RowState state;
-    state.enabled = m_model->isEnabled() && m_table->isEnabled();
-    const QWidget* focus = QApplication::focusWidget();
-    state.focus = focus && currentCell() == &cell && (focus == m_table || m_table->isAncestorOf(focus));
-    if (m_interaction)
-        m_interaction->addRowState(cell, state);
-    return state;
-}
-
-QString CMultiParamsTablePrivate::elidedTexts(const CellItem& cell) const
-{
-    const RowLayout layout = layoutOf(cell);
-    QStringList full;
-    if (layout.labelText != cell.label())
-        full << cell.label();
-    if (layout.checkText != cell.checkText())
-        full << cell.checkText();
-    if (layout.valueText != cell.displayText() || layout.unitText != cell.unit())
-        full << (cell.displayText() + QLatin1Char(' ') + cell.unit()).trimmed();
-    return layout.elided ? full.join(QLatin1Char('\n')) : QString();
-}
-
-QString CMultiParamsTablePrivate::toolTipOf(const CellItem& cell) const
-{
-    QStringList lines{elidedTexts(cell), cell.offGridText()};
-    lines.removeAll(QString());
-    const QString text = lines.join(QLatin1Char('\n'));
-    return text.size() <= kLongestToolTip ? text : text.left(kLongestToolTip) + QChar(0x2026);
-}
-
-void CMultiParamsTablePrivate::paint(QPaintEvent* event)
-{
-    QPainter painter(m_table->viewport());
-    const QRect dirty = event->rect();
-    const int rows = m_model->rowCount();
-    const int column = labelColumn();
-    for (int row = 0; row < rows; ++row) {
-        const QRect rect = rowRect(row);
-        if (!rect.intersects(dirty))
-            continue;
-        const CellItem& cell = *m_model->cellAtRow(row);
-        paintRow(painter, rect, cell, layoutRow(cell, rect, m_metrics, column), m_metrics, rowState(cell));
-    }
-    const QRect footer = footerRect();
-    if (footer.intersects(dirty)) {
-        FooterState state = m_interaction ? m_interaction->footerState() : FooterState();
-        state.enabled = isFilterEnabled();
-        state.active = !m_model->visibleSet().isEmpty();
-        paintFooter(painter, footer, m_metrics, state);
-    }
-    const int end = rows * m_metrics.rowHeight - m_table->verticalScrollBar()->value() + footer.height();
-    const QRect ground = m_table->viewport()->rect().adjusted(0, end, 0, 0);
-    if (ground.isValid() && ground.intersects(dirty))
-        paintGround(painter, ground);
 }
 
 } // namespace WQ

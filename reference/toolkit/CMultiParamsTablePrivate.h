@@ -126,16 +126,23 @@ public:
     void labelsChanged();
     void filterChanged();
     void rowsChanged(int first, int last);
+
+    /// Limits or entries may be others: an open editor or list follows, the row is not painted.
+    void changedUnseen(const CellItem& cell);
     int add(std::unique_ptr<CMultiParamsTableItem> item);
 
     template <class Change>
     bool change(int id, Change change)
     {
         CellItem* cell = m_model->cell(id);
-        if (!cell || !change(*cell))
+        if (!cell)
             return false;
-        m_model->touch(cell);
-        return true;
+        const bool seen = change(*cell);
+        if (seen)
+            m_model->touch(cell);
+        else
+            changedUnseen(*cell);
+        return seen;
     }
     /// @}
 
