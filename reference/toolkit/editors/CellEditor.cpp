@@ -276,10 +276,12 @@ void CellEditor::paintEvent(QPaintEvent*)
                        periodText());
 }
 
+// A press beside the fields has taken the focus from them.
 void CellEditor::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && m_periodArea.contains(event->pos()))
         switchPeriod();
+    takeFocusAt(mapToParent(event->pos()));
 }
 
 // Whatever the client does may take the table away, and the field with it.

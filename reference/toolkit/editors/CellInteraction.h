@@ -98,6 +98,7 @@ private:
     void openFilter();
     void closePopups();
 
+    bool forwardKey(QKeyEvent& event);
     bool rowKey(QKeyEvent& event, CellItem& cell);
     bool footerKey(const QKeyEvent& event);
     bool leavesRows(const QKeyEvent& event) const;
@@ -120,6 +121,7 @@ private:
     bool m_unitMouse = false;
     bool m_footerMouse = false;
     bool m_footerFocus = false;
+    bool m_forwarding = false; // a key that the table got is on its way through the editor
     bool m_closing = false;
 };
 

@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <utility>
+
 namespace WQ {
 
 bool CellInteraction::activate(CellItem& cell)
@@ -140,13 +142,27 @@ bool CellInteraction::footerKey(const QKeyEvent& event)
     }
 }
 
-// What the editor has left of a key is the host's: the table itself has no use for it while a cell is edited.
-bool CellInteraction::keyPress(QKeyEvent* event)
+// While a cell is edited a key is the editor's, wherever it arrives; what the editor leaves of it is the host's.
+bool CellInteraction::forwardKey(QKeyEvent& event)
 {
-    if (m_cell) {
-        event->ignore();
+    if (m_forwarding) {
+        // The editor's copy has come up to the table, unused. It ends here, and the host gets the event itself.
+        m_forwarding = false;
         return true;
     }
+    m_forwarding = true;
+    const QPointer<CellEditor> alive(m_editor);
+    QKeyEvent copy(event);
+    QCoreApplication::sendEvent(m_editor->field(), &copy);
+    if (alive)
+        event.setAccepted(std::exchange(m_forwarding, false) && copy.isAccepted());
+    return true;
+}
+
+bool CellInteraction::keyPress(QKeyEvent* event)
+{
+    if (m_cell)
+        return forwardKey(*event);
     if (m_footerFocus)
         return footerKey(*event);
     if (leavesRows(*event)) {

@@ -1,0 +1,414 @@
+#include "EditorPanel.h"
+
+#include "reference/toolkit/editors/PersonEdits.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+
+using Cell = EditorPanel;
+
+class tst_CellInteraction : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void tabGoesThroughTheEditableValuesAndLeaves();
+    void backtabComesInAtTheEndAndLeavesAtTheStart();
+    void tabCommitsWhatWasTyped();
+    void tabScrollsThePanelToTheCell();
+    void arrowsMoveAmongTheRows();
+    void escapeOnARowIsTheHostsOwn();
+    void keysThatReachTheTableAreTheEditors();
+    void aKeyThatTheEditorHasNoUseForReachesTheHostOnce();
+    void programmaticChangesSendNothing();
+    void noWidgetStandsBeforeAnEditorOpens();
+    void theTableMayBeDeletedInAnyEvent_data();
+    void theTableMayBeDeletedInAnyEvent();
+    void theTableMayBeDeletedWhileAnEditorOrAListIsOpen();
+    void aListenerMayRefillAndHideTheRows();
+    void disablingTheTableDropsTheEdit();
+    void theEditorFollowsItsRow();
+    void aNewThemeReachesTheOpenEditor();
+    void oneEditAfterAnotherAsAPerson();
+    void wrongInputOfAPersonKeepsTheValue();
+    void whatNoPersonCouldDoIsRefused();
+    void anOpenEditorIsCommittedBeforeAnEditAsAPerson();
+
+private:
+    std::unique_ptr<EditorPanel> m_panel;
+};
+
+void tst_CellInteraction::init()
+{
+    m_panel = std::make_unique<EditorPanel>();
+    QVERIFY(m_panel->open());
+}
+
+void tst_CellInteraction::cleanup()
+{
+    m_panel.reset();
+}
+
+void tst_CellInteraction::tabGoesThroughTheEditableValuesAndLeaves()
+{
+    m_panel->table->setItemHidden(Cell::Price, true);
+    m_panel->table->setItemEditable(Cell::Swing, false);
+    m_panel->press(Qt::Key_Tab);
+    QVERIFY(m_panel->table->hasFocus());
+    QCOMPARE(m_panel->inner().currentCell()->id(), static_cast<int>(Cell::Combo));
+    for (const int id :
+         {Cell::Least, Cell::Span, Cell::Span, Cell::Period, Cell::Period, Cell::Remark, Cell::Code, Cell::Text}) {
+        m_panel->press(Qt::Key_Tab);
+        QVERIFY2(m_panel->isEditing(id), qPrintable(QString::number(id)));
+        QCOMPARE(m_panel->line()->selectedText(), m_panel->line()->text());
+    }
+    m_panel->press(Qt::Key_Tab);
+    QVERIFY(m_panel->after->hasFocus());
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_CellInteraction::backtabComesInAtTheEndAndLeavesAtTheStart()
+{
+    m_panel->after->setFocus();
+    for (const int id : {Cell::Text, Cell::Code, Cell::Remark}) {
+        m_panel->press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY2(m_panel->isEditing(id), qPrintable(QString::number(id)));
+    }
+    for (int presses = 0; presses < 8 && !m_panel->table->hasFocus(); ++presses)
+        m_panel->press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(m_panel->inner().currentCell()->id(), static_cast<int>(Cell::Combo));
+    m_panel->press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(m_panel->before->hasFocus());
+}
+
+void tst_CellInteraction::tabCommitsWhatWasTyped()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("600"));
+    m_panel->press(Qt::Key_Tab);
+    QVERIFY(m_panel->isEditing(Cell::Swing));
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=600")});
+}
+
+void tst_CellInteraction::tabScrollsThePanelToTheCell()
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* area = new QScrollArea(&window);
+    auto* table = new WQ::CMultiParamsTable(area, true);
+    auto* button = new QPushButton(&window);
+    layout->addWidget(area);
+    layout->addWidget(button);
+    for (int id = 0; id < 20; ++id)
+        table->addParamCell(id, QStringLiteral("x"), 2, 0, 9, 1, QString(), 3, 4);
+    table->setFixedSize(240, table->realHeight());
+    area->setWidget(table);
+    window.resize(280, 200);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(m_panel->line());
+    const QRect line(m_panel->line()->mapTo(area->viewport(), QPoint()), m_panel->line()->size());
+    QVERIFY(area->viewport()->rect().contains(line));
+    QVERIFY(area->verticalScrollBar()->value() > 0);
+}
+
+void tst_CellInteraction::arrowsMoveAmongTheRows()
+{
+    m_panel->focusRow(Cell::Least);
+    m_panel->press(Qt::Key_Down);
+    QCOMPARE(m_panel->inner().currentCell()->id(), static_cast<int>(Cell::Swing));
+    QVERIFY(!m_panel->line());
+    m_panel->press(Qt::Key_Home);
+    QCOMPARE(m_panel->inner().currentCell()->id(), static_cast<int>(Cell::Combo));
+    m_panel->press(Qt::Key_End);
+    QCOMPARE(m_panel->inner().currentCell()->id(), static_cast<int>(Cell::Text));
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_CellInteraction::escapeOnARowIsTheHostsOwn()
+{
+    m_panel->focusRow(Cell::Least);
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(m_panel->table, &escape);
+    QVERIFY(!escape.isAccepted());
+}
+
+void tst_CellInteraction::keysThatReachTheTableAreTheEditors()
+{
+    m_panel->focusRow(Cell::Least);
+    QTest::keyClicks(m_panel->table, QStringLiteral("500"));
+    QTest::keyClick(m_panel->table, Qt::Key_Return);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=500")});
+}
+
+void tst_CellInteraction::aKeyThatTheEditorHasNoUseForReachesTheHostOnce()
+{
+    struct KeyCounter : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::KeyPress;
+            return false;
+        }
+        int count = 0;
+    };
+    KeyCounter counter;
+    m_panel->host.installEventFilter(&counter);
+    m_panel->clickValue(Cell::Least);
+    QTest::keyClick(m_panel->line(), Qt::Key_F5);
+    QCOMPARE(counter.count, 1);
+    QTest::keyClick(m_panel->table, Qt::Key_F5);
+    QCOMPARE(counter.count, 2);
+    QTest::keyClick(m_panel->line(), Qt::Key_Return);
+    QCOMPARE(counter.count, 2);
+}
+
+void tst_CellInteraction::programmaticChangesSendNothing()
+{
+    WQ::CMultiParamsTable& table = *m_panel->table;
+    table.setItemDouble(Cell::Price, 1);
+    table.setItemInt(Cell::Least, 300);
+    table.setComboData(Cell::Combo, 6);
+    table.setItemUnit(Cell::Price, QStringLiteral("元"));
+    table.setCheckDouble(Cell::Swing, true, 1, false);
+    table.setItemText(Cell::Remark, QStringLiteral("x"));
+    table.setItemText(Cell::Period, QStringLiteral("10:00:00-11:00:00"));
+    table.resetCellRange(Cell::Least, 500, 600);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_CellInteraction::noWidgetStandsBeforeAnEditorOpens()
+{
+    QCOMPARE(m_panel->table->viewport()->findChildren<QWidget*>().size(), 0);
+    m_panel->focusRow(Cell::Least);
+    m_panel->press(Qt::Key_Down);
+    QCOMPARE(m_panel->table->viewport()->findChildren<QWidget*>().size(), 0);
+    QVERIFY(m_panel->table->findChildren<WQ::PopupRows*>().isEmpty());
+}
+
+void tst_CellInteraction::theTableMayBeDeletedInAnyEvent_data()
+{
+    QTest::addColumn<int>("event");
+    QTest::addColumn<int>("cell");
+    QTest::addColumn<QList<int>>("keys");
+    QTest::newRow("combo") << 73 << static_cast<int>(Cell::Combo)
+                           << QList<int>{Qt::Key_F2, Qt::Key_Down, Qt::Key_Return};
+    QTest::newRow("number") << 87 << static_cast<int>(Cell::Least)
+                            << QList<int>{Qt::Key_F2, Qt::Key_Up, Qt::Key_Return};
+    QTest::newRow("number left by Tab") << 87 << static_cast<int>(Cell::Least)
+                                        << QList<int>{Qt::Key_F2, Qt::Key_Up, Qt::Key_Tab};
+    QTest::newRow("check") << 118 << static_cast<int>(Cell::Swing) << QList<int>{Qt::Key_F2, Qt::Key_Space};
+    QTest::newRow("period") << 101 << static_cast<int>(Cell::Period)
+                            << QList<int>{Qt::Key_F2, Qt::Key_Up, Qt::Key_Return};
+    QTest::newRow("line") << 102 << static_cast<int>(Cell::Code) << QList<int>{Qt::Key_1, Qt::Key_Return};
+    QTest::newRow("filter") << 124 << static_cast<int>(Cell::Text)
+                            << QList<int>{Qt::Key_Down, Qt::Key_Return, Qt::Key_Return};
+}
+
+void tst_CellInteraction::theTableMayBeDeletedInAnyEvent()
+{
+    QFETCH(int, event);
+    QFETCH(int, cell);
+    QFETCH(QList<int>, keys);
+    m_panel->table->setAllItemSet({Cell::Combo, Cell::Price});
+    QList<int> arrived;
+    m_panel->host.onEvent = [&](int number) {
+        arrived << number;
+        delete m_panel->table.data();
+    };
+    m_panel->focusRow(cell);
+    for (const int key : keys)
+        m_panel->press(static_cast<Qt::Key>(key));
+    QCOMPARE(arrived, QList<int>());
+    QCoreApplication::processEvents();
+    QCOMPARE(arrived, QList<int>{event});
+    QVERIFY(!m_panel->table);
+}
+
+void tst_CellInteraction::theTableMayBeDeletedWhileAnEditorOrAListIsOpen()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("5"));
+    delete m_panel->table.data();
+    QCoreApplication::processEvents();
+    QVERIFY(!QApplication::focusWidget() || QApplication::focusWidget()->window() == &m_panel->host);
+
+    for (const bool isFilter : {false, true}) {
+        EditorPanel other;
+        QVERIFY(other.open());
+        if (isFilter)
+            other.click(other.inner().footerRect());
+        else
+            other.clickValue(Cell::Combo);
+        QVERIFY(QApplication::activePopupWidget());
+        delete other.table.data();
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(other.host.take(), QStringList());
+    }
+}
+
+void tst_CellInteraction::aListenerMayRefillAndHideTheRows()
+{
+    m_panel->host.onEvent = [this](int) {
+        m_panel->table->setItemHidden(Cell::Swing, true);
+        m_panel->table->resetCellRange(Cell::Least, 1, 300);
+        m_panel->table->resetComboData(Cell::Combo, {}, {}, -1);
+        m_panel->table->setItemHidden(Cell::Least, true);
+    };
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->press(Qt::Key_Tab);
+    QVERIFY(m_panel->isEditing(Cell::Swing));
+    m_panel->type(QStringLiteral("7"));
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=500")});
+    QCoreApplication::processEvents();
+    // The row that was being edited has gone: what had been typed there was right, and is kept.
+    QCOMPARE(m_panel->table->itemDouble(Cell::Swing), 7.0);
+    QVERIFY(!m_panel->table->findChild<WQ::CellEditor*>()->isVisible());
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 300);
+}
+
+void tst_CellInteraction::disablingTheTableDropsTheEdit()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->table->setAllItemEnable(false);
+    QCoreApplication::processEvents();
+    QVERIFY(!m_panel->line());
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    m_panel->table->setAllItemEnable(true);
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->table->setEnabled(false);
+    QVERIFY(!m_panel->line());
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_CellInteraction::theEditorFollowsItsRow()
+{
+    m_panel->clickValue(Cell::Least);
+    auto* editor = m_panel->table->findChild<WQ::CellEditor*>();
+    const int before = editor->y();
+    m_panel->table->setItemHidden(Cell::Combo, true);
+    QCoreApplication::processEvents();
+    QCOMPARE(editor->y(), before - 26);
+    QVERIFY(m_panel->isEditing(Cell::Least));
+}
+
+void tst_CellInteraction::aNewThemeReachesTheOpenEditor()
+{
+    m_panel->clickValue(Cell::Least);
+    const QString dark = m_panel->line()->styleSheet();
+    QVERIFY(WQ::resources::setTheme(QStringLiteral("light")));
+    const QString light = m_panel->line()->styleSheet();
+    QVERIFY(WQ::resources::setTheme(QStringLiteral("dark")));
+    QVERIFY2(light.contains(QStringLiteral("#18212d")), qPrintable(light));
+    QCOMPARE(m_panel->line()->styleSheet(), dark);
+}
+
+void tst_CellInteraction::oneEditAfterAnotherAsAPerson()
+{
+    WQ::PersonEdit edit;
+    edit.unit = QStringLiteral("元");
+    edit.checked = true;
+    edit.text = QStringLiteral("２５０");
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Swing, edit) == WQ::EditOutcome::Done);
+    QCOMPARE(m_panel->host.take(),
+             (QStringList{QStringLiteral("118 cell=4 b=0 text=元"), QStringLiteral("118 cell=4 b=1 text=单向"),
+                          QStringLiteral("87 cell=4 b=0 text=250.000")}));
+    WQ::PersonEdit range;
+    range.range = {QStringLiteral("5"), QStringLiteral("50")};
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Span, range) == WQ::EditOutcome::Done);
+    WQ::PersonEdit entry;
+    entry.text = QStringLiteral("买②价");
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Combo, entry) == WQ::EditOutcome::Done);
+    WQ::PersonEdit length;
+    length.duration = QStringLiteral("00:10:00");
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Period, length) == WQ::EditOutcome::Done);
+    WQ::PersonEdit clock;
+    clock.time = {QStringLiteral("10:00:00"), QStringLiteral("11:00:00")};
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Period, clock) == WQ::EditOutcome::Done);
+    QCOMPARE(
+        m_panel->host.take(),
+        (QStringList{QStringLiteral("87 cell=5 b=0 text=5 - 50"), QStringLiteral("73 cell=1 b=3 text=买②价 data=7"),
+                     QStringLiteral("101 cell=6 b=0 text=09:30:00-15:00:00"),
+                     QStringLiteral("101 cell=6 b=0 text=10:00:00-11:00:00")}));
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Period, clock) == WQ::EditOutcome::Done);
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_CellInteraction::wrongInputOfAPersonKeepsTheValue()
+{
+    WQ::PersonEdit edit;
+    for (const char* typed : {"", "x", "99", "1000001", "100.5"}) {
+        edit.text = QLatin1String(typed);
+        QVERIFY2(WQ::applyPersonEdit(*m_panel->table, Cell::Least, edit) == WQ::EditOutcome::Wrong, typed);
+    }
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    WQ::PersonEdit time;
+    time.time = {QStringLiteral("24:00:00"), QStringLiteral("11:00:00")};
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Period, time) == WQ::EditOutcome::Wrong);
+    WQ::PersonEdit line;
+    line.text = QStringLiteral("abc");
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Code, line) == WQ::EditOutcome::Wrong);
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_CellInteraction::whatNoPersonCouldDoIsRefused()
+{
+    WQ::CMultiParamsTable& table = *m_panel->table;
+    const auto outcome = [&table](int cell, const WQ::PersonEdit& edit) {
+        return WQ::applyPersonEdit(table, cell, edit) == WQ::EditOutcome::Impossible;
+    };
+    WQ::PersonEdit text;
+    text.text = QStringLiteral("500");
+    WQ::PersonEdit unit = text;
+    unit.unit = QStringLiteral("手");
+    WQ::PersonEdit checked = text;
+    checked.checked = true;
+    WQ::PersonEdit index;
+    index.index = 4;
+    WQ::PersonEdit both = text;
+    both.index = 0;
+    QVERIFY(outcome(4711, text));
+    QVERIFY(outcome(Cell::Least, unit));
+    QVERIFY(outcome(Cell::Least, checked));
+    QVERIFY(outcome(Cell::Combo, index));
+    QVERIFY(outcome(Cell::Combo, text));
+    QVERIFY(outcome(Cell::Combo, both));
+    QVERIFY(outcome(Cell::Span, text));
+    QVERIFY(outcome(Cell::Period, text));
+    table.setItemEditable(Cell::Least, false);
+    QVERIFY(outcome(Cell::Least, text));
+    table.setItemEditable(Cell::Least, true);
+    table.setItemHidden(Cell::Least, true);
+    QVERIFY(outcome(Cell::Least, text));
+    table.setItemHidden(Cell::Least, false);
+    table.hide();
+    QVERIFY(outcome(Cell::Least, text));
+    table.show();
+    table.setAllItemEnable(false);
+    QVERIFY(outcome(Cell::Least, text));
+    QCOMPARE(table.itemInt(Cell::Least), 10000);
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_CellInteraction::anOpenEditorIsCommittedBeforeAnEditAsAPerson()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    WQ::PersonEdit edit;
+    edit.text = QStringLiteral("1");
+    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Price, edit) == WQ::EditOutcome::Done);
+    QCOMPARE(m_panel->host.take(),
+             (QStringList{QStringLiteral("87 cell=3 b=0 text=500"), QStringLiteral("87 cell=2 b=0 text=1.00")}));
+}
+
+QTEST_MAIN(tst_CellInteraction)
+#include "tst_CellInteraction.moc"

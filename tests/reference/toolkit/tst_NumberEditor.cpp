@@ -1,0 +1,402 @@
+#include "EditorPanel.h"
+
+using Cell = EditorPanel;
+
+class tst_NumberEditor : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void clickingTheValueSelectsItWholeWithoutGrouping();
+    void enterCommitsAndSendsTheTextOnce();
+    void theCellHoldsTheNumberBeforeTheEventArrives();
+    void enterOnAnUntouchedValueSendsNothing();
+    void typingTheSameNumberSendsNothing();
+    void escapeTakesTheEditBack();
+    void typingOnTheRowReplacesTheValue();
+    void f2EditsTheRow();
+    void upAndDownStepByTheStepAndShiftByTen();
+    void fullWidthDigitsAndStopsAreRead();
+    void wrongTextIsMarkedAndEnterKeepsTheEditorOpen_data();
+    void wrongTextIsMarkedAndEnterKeepsTheEditorOpen();
+    void aWrongTextIsDroppedWhenAnotherCellIsClicked();
+    void aPendingNumberIsCommittedWhenAnotherCellIsClicked();
+    void aPendingNumberIsCommittedWhenTheFocusLeaves();
+    void aPendingNumberIsCommittedWhenTheWindowCloses();
+    void aPendingNumberIsCommittedWhenTheProgramHidesTheCell();
+    void aPendingNumberOfACellMadeReadOnlyIsDropped();
+    void theWheelStepsInTheEditorThatHasTheFocus();
+    void theWheelOverARowLeavesItsValueAndGoesOn();
+    void anUntouchedEditorFollowsTheProgramAndATouchedOneStays();
+    void altDownOpensTheUnitsAndSendsTheNewOne();
+    void clickingTheUnitOpensTheUnits();
+    void aNumberBeingTypedSurvivesTheSwitchOfItsUnit();
+    void spaceTogglesTheCheckInTheEditorAndOnTheRow();
+    void clickingTheBoxTogglesTheCheck();
+    void aDoubleClickIsReported();
+    void oneEditorServesAllCells();
+
+private:
+    void sendWheel(QWidget* to, int delta);
+
+    std::unique_ptr<EditorPanel> m_panel;
+};
+
+void tst_NumberEditor::init()
+{
+    m_panel = std::make_unique<EditorPanel>();
+    QVERIFY(m_panel->open());
+}
+
+void tst_NumberEditor::cleanup()
+{
+    m_panel.reset();
+}
+
+void tst_NumberEditor::sendWheel(QWidget* to, int delta)
+{
+    const QPointF at(to->rect().center());
+    QWheelEvent wheel(at, to->mapToGlobal(at.toPoint()), QPoint(), QPoint(0, delta), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(to, &wheel);
+}
+
+void tst_NumberEditor::clickingTheValueSelectsItWholeWithoutGrouping()
+{
+    m_panel->clickValue(Cell::Least);
+    QVERIFY(m_panel->isEditing(Cell::Least));
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("10000"));
+    QCOMPARE(m_panel->line()->selectedText(), QStringLiteral("10000"));
+}
+
+void tst_NumberEditor::enterCommitsAndSendsTheTextOnce()
+{
+    bool pressed = false;
+    connect(m_panel->after, &QPushButton::clicked, this, [&] { pressed = true; });
+    m_panel->after->setDefault(true);
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 500);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=500")});
+    QVERIFY(!m_panel->isEditing(Cell::Least));
+    QCOMPARE(QApplication::focusWidget(), m_panel->table.data());
+    m_panel->press(Qt::Key_Return);
+    QVERIFY(!pressed);
+}
+
+void tst_NumberEditor::theCellHoldsTheNumberBeforeTheEventArrives()
+{
+    int held = 0;
+    m_panel->host.onEvent = [&](int) { held = m_panel->table->itemInt(Cell::Least); };
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("700"));
+    m_panel->press(Qt::Key_Enter);
+    QCOMPARE(held, 0);
+    QCOMPARE(m_panel->host.take().size(), 1);
+    QCOMPARE(held, 700);
+}
+
+void tst_NumberEditor::enterOnAnUntouchedValueSendsNothing()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->host.take(), QStringList());
+    QVERIFY(!m_panel->line());
+}
+
+void tst_NumberEditor::typingTheSameNumberSendsNothing()
+{
+    m_panel->clickValue(Cell::Price);
+    m_panel->type(QStringLiteral("0.5"));
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->host.take(), QStringList());
+    QCOMPARE(m_panel->table->itemText(Cell::Price), QStringLiteral("0.50"));
+}
+
+void tst_NumberEditor::escapeTakesTheEditBack()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->press(Qt::Key_Escape);
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    QCOMPARE(m_panel->host.take(), QStringList());
+    QVERIFY(m_panel->host.isVisible());
+}
+
+void tst_NumberEditor::typingOnTheRowReplacesTheValue()
+{
+    m_panel->focusRow(Cell::Least);
+    QVERIFY(!m_panel->line());
+    m_panel->type(QStringLiteral("2"));
+    QVERIFY(m_panel->isEditing(Cell::Least));
+    m_panel->type(QStringLiteral("00"));
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("200"));
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 200);
+}
+
+void tst_NumberEditor::f2EditsTheRow()
+{
+    m_panel->focusRow(Cell::Least);
+    m_panel->press(Qt::Key_F2);
+    QVERIFY(m_panel->isEditing(Cell::Least));
+    QCOMPARE(m_panel->line()->selectedText(), QStringLiteral("10000"));
+}
+
+void tst_NumberEditor::upAndDownStepByTheStepAndShiftByTen()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->press(Qt::Key_Up);
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("10100"));
+    m_panel->press(Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("9100"));
+    QCOMPARE(m_panel->line()->selectedText(), QStringLiteral("9100"));
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=9100")});
+}
+
+void tst_NumberEditor::fullWidthDigitsAndStopsAreRead()
+{
+    for (const QString& typed : {QStringLiteral("１。２５"), QStringLiteral("１．２５")}) {
+        m_panel->table->setItemDouble(Cell::Price, 0.5);
+        m_panel->clickValue(Cell::Price);
+        m_panel->line()->insert(typed);
+        m_panel->press(Qt::Key_Return);
+        QCOMPARE(m_panel->table->itemDouble(Cell::Price), 1.25);
+        QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=2 b=0 text=1.25")});
+    }
+}
+
+void tst_NumberEditor::wrongTextIsMarkedAndEnterKeepsTheEditorOpen_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("letters") << QStringLiteral("abc");
+    QTest::newRow("below the range") << QStringLiteral("99");
+    QTest::newRow("above the range") << QStringLiteral("1000001");
+    QTest::newRow("a fraction of a whole number") << QStringLiteral("100.5");
+    QTest::newRow("an exponent") << QStringLiteral("1e4");
+}
+
+void tst_NumberEditor::wrongTextIsMarkedAndEnterKeepsTheEditorOpen()
+{
+    QFETCH(QString, typed);
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(typed);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab}) {
+        m_panel->press(key);
+        QVERIFY(m_panel->isEditing(Cell::Least));
+        QVERIFY(m_panel->inner().rowState(m_panel->cell(Cell::Least)).wrong);
+        QCOMPARE(m_panel->line()->text(), typed);
+    }
+    const auto* notice = m_panel->table->findChild<WQ::Notice*>();
+    QVERIFY(notice && notice->isVisible());
+    QCOMPARE(notice->text(), m_panel->wrongText(Cell::Least));
+    QVERIFY2(notice->text().contains(QStringLiteral("单笔最小量")), qPrintable(notice->text()));
+    QVERIFY2(notice->text().contains(QStringLiteral("100 – 1,000,000 股")), qPrintable(notice->text()));
+    m_panel->press(Qt::Key_Escape);
+    QVERIFY(!notice->isVisible());
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_NumberEditor::aWrongTextIsDroppedWhenAnotherCellIsClicked()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("5"));
+    m_panel->clickValue(Cell::Price);
+    QVERIFY(m_panel->isEditing(Cell::Price));
+    QVERIFY(!m_panel->inner().rowState(m_panel->cell(Cell::Least)).wrong);
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_NumberEditor::aPendingNumberIsCommittedWhenAnotherCellIsClicked()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->clickValue(Cell::Price);
+    QVERIFY(m_panel->isEditing(Cell::Price));
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=500")});
+}
+
+void tst_NumberEditor::aPendingNumberIsCommittedWhenTheFocusLeaves()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->after->setFocus();
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=500")});
+    QVERIFY(m_panel->after->hasFocus());
+    QVERIFY(!m_panel->inner().rowState(m_panel->cell(Cell::Least)).editing);
+}
+
+void tst_NumberEditor::aPendingNumberIsCommittedWhenTheWindowCloses()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->host.close();
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 500);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=500")});
+}
+
+void tst_NumberEditor::aPendingNumberIsCommittedWhenTheProgramHidesTheCell()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->table->setItemHidden(Cell::Least, true);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 500);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=500")});
+    QVERIFY(!m_panel->table->findChild<WQ::CellEditor*>()->isVisible());
+}
+
+void tst_NumberEditor::aPendingNumberOfACellMadeReadOnlyIsDropped()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("500"));
+    m_panel->table->setItemEditable(Cell::Least, false);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    QVERIFY(!m_panel->table->findChild<WQ::CellEditor*>()->isVisible());
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("7"));
+    QVERIFY(!m_panel->line());
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_NumberEditor::theWheelStepsInTheEditorThatHasTheFocus()
+{
+    m_panel->clickValue(Cell::Least);
+    sendWheel(m_panel->line(), 120);
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("10100"));
+    sendWheel(m_panel->line(), -240);
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("9900"));
+    // Half a notch waits for its other half.
+    sendWheel(m_panel->line(), 60);
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("9900"));
+    sendWheel(m_panel->line(), 60);
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("10000"));
+}
+
+void tst_NumberEditor::theWheelOverARowLeavesItsValueAndGoesOn()
+{
+    m_panel->focusRow(Cell::Least);
+    const QPointF at = m_panel->layoutOf(Cell::Least).value.center();
+    QWheelEvent wheel(at, m_panel->table->viewport()->mapToGlobal(at.toPoint()), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(m_panel->table->viewport(), &wheel);
+    QVERIFY(!wheel.isAccepted());
+    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
+    QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_NumberEditor::anUntouchedEditorFollowsTheProgramAndATouchedOneStays()
+{
+    m_panel->clickValue(Cell::Least);
+    m_panel->table->setItemInt(Cell::Least, 20000);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("20000"));
+    QCOMPARE(m_panel->line()->selectedText(), QStringLiteral("20000"));
+    m_panel->type(QStringLiteral("300"));
+    m_panel->table->setItemInt(Cell::Least, 30000);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("300"));
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=300")});
+}
+
+void tst_NumberEditor::altDownOpensTheUnitsAndSendsTheNewOne()
+{
+    m_panel->focusRow(Cell::Price);
+    m_panel->press(Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(m_panel->list());
+    QCOMPARE(m_panel->list()->entries(), (QStringList{QStringLiteral("%"), QStringLiteral("元")}));
+    m_panel->press(Qt::Key_Down);
+    m_panel->press(Qt::Key_Return);
+    QVERIFY(!m_panel->list());
+    QCOMPARE(m_panel->table->itemUnit(Cell::Price), QStringLiteral("元"));
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("118 cell=2 b=0 text=元")});
+}
+
+void tst_NumberEditor::clickingTheUnitOpensTheUnits()
+{
+    for (const QRect& part : {m_panel->layoutOf(Cell::Price).unit, m_panel->layoutOf(Cell::Price).chevron}) {
+        m_panel->click(part);
+        QVERIFY(m_panel->list());
+        QCOMPARE(m_panel->list()->chosenRow(), 0);
+        m_panel->press(Qt::Key_Escape);
+        QVERIFY(!m_panel->list());
+    }
+    m_panel->click(m_panel->layoutOf(Cell::Price).unit);
+    QTest::mouseClick(m_panel->list(), Qt::LeftButton, Qt::NoModifier, m_panel->list()->rowRect(1).center());
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("118 cell=2 b=0 text=元")});
+    m_panel->click(m_panel->layoutOf(Cell::Least).unit);
+    QVERIFY(!m_panel->list());
+}
+
+void tst_NumberEditor::aNumberBeingTypedSurvivesTheSwitchOfItsUnit()
+{
+    m_panel->clickValue(Cell::Price);
+    m_panel->type(QStringLiteral("500"));
+    QVERIFY(!m_panel->wrongText(Cell::Price).isEmpty());
+    m_panel->click(m_panel->layoutOf(Cell::Price).unit);
+    QVERIFY(m_panel->list());
+    m_panel->press(Qt::Key_End);
+    m_panel->press(Qt::Key_Return);
+    QVERIFY(m_panel->isEditing(Cell::Price));
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("500"));
+    QCOMPARE(m_panel->wrongText(Cell::Price), QString());
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->host.take(),
+             (QStringList{QStringLiteral("118 cell=2 b=0 text=元"), QStringLiteral("87 cell=2 b=0 text=500.000")}));
+}
+
+void tst_NumberEditor::spaceTogglesTheCheckInTheEditorAndOnTheRow()
+{
+    m_panel->focusRow(Cell::Swing);
+    m_panel->press(Qt::Key_Space);
+    QVERIFY(m_panel->cell(Cell::Swing).isChecked());
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("118 cell=4 b=1 text=单向")});
+    m_panel->press(Qt::Key_F2);
+    m_panel->type(QStringLiteral("5"));
+    m_panel->press(Qt::Key_Space);
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("5"));
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("118 cell=4 b=0 text=单向")});
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=4 b=0 text=5.00")});
+}
+
+void tst_NumberEditor::clickingTheBoxTogglesTheCheck()
+{
+    m_panel->click(m_panel->layoutOf(Cell::Swing).check);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("118 cell=4 b=1 text=单向")});
+    QVERIFY(!m_panel->line());
+}
+
+void tst_NumberEditor::aDoubleClickIsReported()
+{
+    const QPoint at = m_panel->layoutOf(Cell::Least).label.center();
+    QTest::mouseDClick(m_panel->table->viewport(), Qt::LeftButton, Qt::NoModifier, at);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("97 cell=3 b=0 text=10000")});
+    m_panel->clickValue(Cell::Least);
+    QTest::mouseDClick(m_panel->line(), Qt::LeftButton);
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("97 cell=3 b=0 text=10000")});
+}
+
+void tst_NumberEditor::oneEditorServesAllCells()
+{
+    QVERIFY(m_panel->table->findChildren<WQ::CellEditor*>().isEmpty());
+    for (const int id :
+         {Cell::Price, Cell::Least, Cell::Swing, Cell::Span, Cell::Period, Cell::Remark, Cell::Code, Cell::Text}) {
+        m_panel->clickValue(id);
+        QVERIFY(m_panel->isEditing(id));
+    }
+    QCOMPARE(m_panel->table->findChildren<WQ::CellEditor*>().size(), 1);
+    QVERIFY(m_panel->table->findChildren<QLineEdit*>().size() <= 2);
+}
+
+QTEST_MAIN(tst_NumberEditor)
+#include "tst_NumberEditor.moc"
