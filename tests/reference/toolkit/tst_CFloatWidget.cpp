@@ -60,8 +60,9 @@ IconButton* closeButton(const QWidget& dialog)
 
 QString chosen(Dialog& dialog, QPoint position, int entry)
 {
-    QContextMenuEvent asked(QContextMenuEvent::Mouse, position, dialog.mapToGlobal(position));
-    QCoreApplication::sendEvent(dialog.childAt(position) ? dialog.childAt(position) : &dialog, &asked);
+    QWidget* const under = dialog.childAt(position) ? dialog.childAt(position) : &dialog;
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, under->mapFrom(&dialog, position), dialog.mapToGlobal(position));
+    QCoreApplication::sendEvent(under, &asked);
     auto* list = qobject_cast<PopupList*>(QApplication::activePopupWidget());
     if (!list)
         return QString();
@@ -294,6 +295,7 @@ void CFloatWidgetTest::itKeepsItsSizeAtEveryScale()
 void CFloatWidgetTest::theThemeReachesPlainWidgets()
 {
     Dialog dialog(true, nullptr);
+    dialog.resize(100, 100);
     const QFrame line(&dialog);
     QCOMPARE(line.palette().color(QPalette::Light), resources::color(keys::kSeparator));
     QCOMPARE(line.palette().color(QPalette::WindowText), resources::color(keys::kValue));
