@@ -34,7 +34,7 @@ void appendState(std::vector<TicketModel::Entry>& entries, TC::COrderParamBaseTa
     add(QT_TRANSLATE_NOOP("workbench", "order type"), valueWithName(orderTypes(), table.orderType()));
     add(QT_TRANSLATE_NOOP("workbench", "operation"), valueWithName(operationTypes(), table.getOperationType()));
     add(QT_TRANSLATE_NOOP("workbench", "price type"),
-        QStringLiteral("%1  %2").arg(table.priceType()).arg(table.getCurrentPriceTypeName()));
+        QStringLiteral("%1  %2").arg(table.priceType()).arg(labelOf(priceTypes(), table.priceType())));
     add(QT_TRANSLATE_NOOP("workbench", "volume type"), QString::number(table.singleVolType()));
     add(QT_TRANSLATE_NOOP("workbench", "price for amounts"),
         QString::number(table.getModifiedPriceByOptTypeForCalc(table.getOperationType(), true)));

@@ -15,7 +15,9 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 #include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
 
+#include <QAbstractButton>
 #include <QCheckBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QSettings>
@@ -38,6 +40,8 @@ private Q_SLOTS:
     void aBrokenStateFileIsNoObstacle();
     void aTaskOpensItsDialog();
     void itIsUsableAtASmallSize();
+    void noTwoPartsShareAnAccessKey_data();
+    void noTwoPartsShareAnAccessKey();
 
 private:
     QTemporaryDir m_settings;
@@ -184,6 +188,36 @@ void tst_MainWindow::itIsUsableAtASmallSize()
     QCOMPARE(window.size(), QSize(1024, 700));
     const QRect panel(window.bench()->mapTo(&window, QPoint()), window.bench()->size());
     QVERIFY(window.rect().contains(panel));
+}
+
+void tst_MainWindow::noTwoPartsShareAnAccessKey_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString& name : languages())
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void tst_MainWindow::noTwoPartsShareAnAccessKey()
+{
+    QFETCH(QString, language);
+    setLanguage(language);
+    MainWindow window({});
+    QStringList texts;
+    for (const QAction* action : window.menuBar()->actions())
+        texts << action->text();
+    for (const auto* label : window.findChildren<QLabel*>())
+        texts << label->text();
+    for (const auto* button : window.findChildren<QAbstractButton*>())
+        texts << button->text();
+    QHash<QString, QString> owners;
+    for (const QString& text : qAsConst(texts)) {
+        const QString key = QKeySequence::mnemonic(text).toString();
+        if (key.isEmpty())
+            continue;
+        QVERIFY2(!owners.contains(key), qPrintable(key + QStringLiteral(": ") + text + owners.value(key)));
+        owners.insert(key, text);
+    }
+    QVERIFY(owners.size() > 15);
 }
 
 QTEST_MAIN(tst_MainWindow)
