@@ -683,45 +683,5 @@ A host for every table and dialog of the library.</source>
         <source>Feature modules (&amp;y)</source>
         <translation>功能模块(&amp;Y)</translation>
     </message>
-    <message>
-        <source>Quote</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Click: this price type. Double-click: this price, specified.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ticket</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>order type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>operation</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>price type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>volume type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>price for amounts</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 </TS>
