@@ -1,6 +1,7 @@
 #include "reference/toolkit/Resources.h"
 
 #include "reference/toolkit/ChangeHandlers.h"
+#include "reference/toolkit/GuiThread.h"
 #include "reference/toolkit/ThemeStore.h"
 
 #include <algorithm>
@@ -47,6 +48,7 @@ double scale()
 
 void setScale(double scale)
 {
+    checkGuiThread("resources::setScale");
     if (std::isnan(scale) || qFuzzyCompare(boundedScale(scale), g_scale))
         return;
     g_scale = boundedScale(scale);
@@ -65,6 +67,7 @@ QString theme()
 
 bool setTheme(const QString& name)
 {
+    checkGuiThread("resources::setTheme");
     ThemeStore& store = ThemeStore::instance();
     if (name == store.theme())
         return !name.isEmpty();
