@@ -7,9 +7,12 @@
 #include "workbench/LanguageTexts.h"
 #include "workbench/LookForm.h"
 #include "workbench/OrderControls.h"
+#include "workbench/QuoteLadder.h"
+#include "workbench/QuoteModel.h"
 #include "workbench/SetupForm.h"
 #include "workbench/TableBench.h"
 #include "workbench/TaskPanel.h"
+#include "workbench/TicketPanel.h"
 #include "workbench/Vocabulary.h"
 
 #include "reference/services/ServiceControl.h"
@@ -38,6 +41,7 @@ constexpr QSize kFirstSize(1180, 760);
 constexpr int kSetupWidth = 280;
 constexpr int kControlsWidth = 380;
 constexpr int kEventsHeight = 210;
+constexpr int kQuoteHeight = 290;
 
 /// The IDs of the credit accounts: the table knows none, its host fills the combo.
 QStringList creditAccounts()
@@ -90,6 +94,8 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
     , m_events(new EventPanel)
     , m_tasks(new TaskPanel)
     , m_credit(new CreditPanel)
+    , m_ladder(new QuoteLadder)
+    , m_ticket(new TicketPanel)
 {
     setObjectName(QStringLiteral("workbench"));
     setDockNestingEnabled(true);
@@ -127,6 +133,7 @@ void MainWindow::createCentre()
         rebuildTable();
     });
     connect(m_bench, &TableBench::rebuilt, m_controls, &OrderControls::setTable);
+    connectLadder();
 }
 
 QWidget* MainWindow::createSetup()
@@ -147,20 +154,25 @@ void MainWindow::createDocks()
 {
     const auto setup = addDock("setupDock", QT_TRANSLATE_NOOP("workbench", "Setup"), new FormScroll(createSetup()),
                                Qt::LeftDockWidgetArea);
+    const auto quote = addDock("quoteDock", QT_TRANSLATE_NOOP("workbench", "Quote"), m_ladder, Qt::LeftDockWidgetArea);
     const auto controls = addDock("controlsDock", QT_TRANSLATE_NOOP("workbench", "Host calls"),
                                   new FormScroll(m_controls), Qt::RightDockWidgetArea);
     const auto tasks = addDock("tasksDock", QT_TRANSLATE_NOOP("workbench", "Tasks"), m_tasks, Qt::RightDockWidgetArea);
     const auto credit = addDock("creditDock", QT_TRANSLATE_NOOP("workbench", "Credit"), new FormScroll(m_credit),
                                 Qt::RightDockWidgetArea);
+    const auto ticket =
+        addDock("ticketDock", QT_TRANSLATE_NOOP("workbench", "Ticket"), m_ticket, Qt::RightDockWidgetArea);
     const auto events =
         addDock("eventsDock", QT_TRANSLATE_NOOP("workbench", "Events"), m_events, Qt::BottomDockWidgetArea);
     tabifyDockWidget(controls, tasks);
     tabifyDockWidget(controls, credit);
+    tabifyDockWidget(controls, ticket);
     controls->raise();
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     const double scale = WQ::resources::scale();
     resizeDocks({setup, controls}, {qRound(kSetupWidth * scale), qRound(kControlsWidth * scale)}, Qt::Horizontal);
     resizeDocks({events}, {qRound(kEventsHeight * scale)}, Qt::Vertical);
+    resizeDocks({quote}, {qRound(kQuoteHeight * scale)}, Qt::Vertical);
 }
 
 QDockWidget* MainWindow::addDock(const char* name, const char* title, QWidget* content, Qt::DockWidgetArea area)
@@ -182,7 +194,34 @@ void MainWindow::listenTo(PanelHost* host)
 void MainWindow::onEvent(int event, int a, int b, const QString& text, void* payload)
 {
     m_events->add(event, a, b, text, payload);
+    readTable();
+}
+
+void MainWindow::connectLadder()
+{
+    connect(m_bench, &TableBench::rebuilt, this, [this](TC::COrderParamBaseTable* table) {
+        m_ticket->setTable(table, m_bench->setup().traderType);
+        readTable();
+    });
+    connect(m_ladder, &QuoteLadder::priceTypeChosen, this, [this](int priceType) {
+        if (m_bench->table())
+            m_bench->table()->selectPrice(ttservice::EPriceType(priceType));
+        readTable();
+    });
+    connect(m_ladder, &QuoteLadder::priceChosen, this, [this](double price) {
+        if (m_bench->table())
+            m_bench->table()->setFixedPrice(price);
+        readTable();
+    });
+    connect(m_controls, &OrderControls::tableDriven, this, &MainWindow::readTable);
+}
+
+/// Reads what a host reads of its table; from inside the table's events as well, since nothing of it sends any.
+void MainWindow::readTable()
+{
     m_controls->refresh();
+    m_ticket->refresh();
+    m_ladder->quotes()->setChosen(m_bench->table() ? int(m_bench->table()->priceType()) : -1);
 }
 
 void MainWindow::rebuildTable()
@@ -234,6 +273,16 @@ SetupForm* MainWindow::form() const
 CreditPanel* MainWindow::credit() const
 {
     return m_credit;
+}
+
+QuoteLadder* MainWindow::ladder() const
+{
+    return m_ladder;
+}
+
+TicketPanel* MainWindow::ticket() const
+{
+    return m_ticket;
 }
 
 } // namespace workbench

@@ -16,9 +16,11 @@ class LanguageTexts;
 class LookForm;
 class OrderControls;
 class PanelHost;
+class QuoteLadder;
 class SetupForm;
 class TableBench;
 class TaskPanel;
+class TicketPanel;
 
 /// Theme, UI scale and language of the last run; empty, or 1.0, when there was none.
 struct SavedLook
@@ -54,6 +56,8 @@ public:
     EventPanel* events() const;
     SetupForm* form() const;
     CreditPanel* credit() const;
+    QuoteLadder* ladder() const;
+    TicketPanel* ticket() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -64,6 +68,8 @@ private:
     QWidget* createSetup();
     QDockWidget* addDock(const char* name, const char* title, QWidget* content, Qt::DockWidgetArea area);
     void listenTo(PanelHost* host);
+    void connectLadder();
+    void readTable();
     void onEvent(int event, int a, int b, const QString& text, void* payload);
 
     QMenu* addMenu(const char* title);
@@ -87,6 +93,8 @@ private:
     EventPanel* m_events;
     TaskPanel* m_tasks;
     CreditPanel* m_credit;
+    QuoteLadder* m_ladder;
+    TicketPanel* m_ticket;
     QList<QDockWidget*> m_docks;
     QList<QAction*> m_choiceActions; ///< themes and languages, ticked as they are in force
 };

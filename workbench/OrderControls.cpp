@@ -7,6 +7,7 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
@@ -43,12 +44,14 @@ OrderControls::OrderControls(QWidget* parent)
     , m_operation(addNumber(QT_TRANSLATE_NOOP("workbench", "O&peration"), new NumberCombo(operationTypes(), -1)))
     , m_expanded(addCheck(QT_TRANSLATE_NOOP("workbench", "E&xpanded"), false))
     , m_enabled(addCheck(QT_TRANSLATE_NOOP("workbench", "Cells e&nabled"), true))
+    , m_priceType(new QComboBox)
     , m_code(new QLineEdit)
     , m_price(new QDoubleSpinBox)
     , m_flags(new FlagsEditor)
     , m_answers(new QLabel)
 {
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    addPriceType();
     addCode();
     addPrice();
     auto* title = new QLabel;
@@ -82,6 +85,21 @@ QCheckBox* OrderControls::addCheck(const char* label, bool checked)
     return check;
 }
 
+void OrderControls::addPriceType()
+{
+    auto* title = new QLabel;
+    title->setBuddy(m_priceType);
+    for (const LabelledValue& row : priceTypes())
+        m_priceType->addItem(QStringLiteral("%1  %2").arg(row.value).arg(row.label.toString()), row.value);
+    m_form->addRow(title, m_priceType);
+    m_texts->keep([title] { title->setText(translated(QT_TRANSLATE_NOOP("workbench", "Price type (&k)"))); });
+    connect(m_priceType, QOverload<int>::of(&QComboBox::activated), this, [this] {
+        if (m_table)
+            m_table->setPriceType(ttservice::EPriceType(m_priceType->currentData().toInt()));
+        Q_EMIT tableDriven();
+    });
+}
+
 void OrderControls::addCode()
 {
     auto* title = new QLabel;
@@ -94,7 +112,7 @@ void OrderControls::addCode()
         m_drive.code = m_code->text();
         if (m_table)
             m_table->setStockCode(m_drive.code);
-        refresh();
+        Q_EMIT tableDriven();
     });
 }
 
@@ -117,7 +135,7 @@ void OrderControls::addPrice()
     connect(fix, &QPushButton::clicked, this, [this] {
         if (m_table)
             m_table->setFixedPrice(m_price->value());
-        refresh();
+        Q_EMIT tableDriven();
     });
 }
 
@@ -134,7 +152,7 @@ void OrderControls::connectControls()
     const auto apply = [this](auto call) {
         if (m_table)
             call(*m_table);
-        refresh();
+        Q_EMIT tableDriven();
     };
     connect(m_orderType, &NumberCombo::valueChanged, this, [this, apply](int type) {
         m_drive.orderType = type;
@@ -179,6 +197,8 @@ void OrderControls::refresh()
     m_operation->setValue(m_table->getOperationType());
     const QSignalBlocker quiet(m_expanded);
     m_expanded->setChecked(m_table->isExpand());
+    const QSignalBlocker calm(m_priceType);
+    m_priceType->setCurrentIndex(m_priceType->findData(int(m_table->priceType())));
     m_answers->setText(answersOf(*m_table));
 }
 

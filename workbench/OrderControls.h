@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QCheckBox;
+class QComboBox;
 class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
@@ -37,9 +38,14 @@ public:
     /// Reads the table's state again.
     void refresh();
 
+Q_SIGNALS:
+    /// A call was made on the table.
+    void tableDriven();
+
 private:
     NumberCombo* addNumber(const char* label, NumberCombo* combo);
     QCheckBox* addCheck(const char* label, bool checked);
+    void addPriceType();
     void addCode();
     void addPrice();
     void addAnswers();
@@ -53,6 +59,7 @@ private:
     NumberCombo* m_operation;
     QCheckBox* m_expanded;
     QCheckBox* m_enabled;
+    QComboBox* m_priceType;
     QLineEdit* m_code;
     QDoubleSpinBox* m_price;
     FlagsEditor* m_flags;

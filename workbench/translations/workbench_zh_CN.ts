@@ -683,5 +683,49 @@ A host for every table and dialog of the library.</source>
         <source>Feature modules (&amp;y)</source>
         <translation>功能模块(&amp;Y)</translation>
     </message>
+    <message>
+        <source>Click: this price type. Double-click: this price, specified.</source>
+        <translation>单击：选此报价方式。双击：以此价为指定价。</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>档位</translation>
+    </message>
+    <message>
+        <source>Quote</source>
+        <translation>行情</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>字段</translation>
+    </message>
+    <message>
+        <source>Ticket</source>
+        <translation>委托单</translation>
+    </message>
+    <message>
+        <source>order type</source>
+        <translation>委托类型</translation>
+    </message>
+    <message>
+        <source>operation</source>
+        <translation>操作类型</translation>
+    </message>
+    <message>
+        <source>price type</source>
+        <translation>报价方式</translation>
+    </message>
+    <message>
+        <source>volume type</source>
+        <translation>量类型</translation>
+    </message>
+    <message>
+        <source>price for amounts</source>
+        <translation>计算金额的价格</translation>
+    </message>
+    <message>
+        <source>Price type (&amp;k)</source>
+        <translation>报价方式(&amp;K)</translation>
+    </message>
 </context>
 </TS>
