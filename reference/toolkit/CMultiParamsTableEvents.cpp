@@ -162,7 +162,7 @@ QModelIndex CMultiParamsTable::moveCursor(CursorAction cursorAction, Qt::Keyboar
     const int rows = d->model().rowCount();
     const int page = std::max(1, viewport()->height() / d->metrics().rowHeight);
     const int current = currentIndex().isValid() ? currentIndex().row() : -1;
-    int row = current;
+    int row = 0;
     switch (cursorAction) {
     case MoveUp:
     case MoveLeft:
