@@ -50,7 +50,7 @@ void setOrderType(BaseTableProbe& table, int type)
 
 } // namespace
 
-/// Which cells are seen after a switch, collapsed and expanded, and the words that keep a user's choice.
+/// Which cells are seen after a switch, collapsed and expanded.
 class tst_Visibility : public QObject
 {
     Q_OBJECT
@@ -66,13 +66,6 @@ private Q_SLOTS:
     void stripFollowsTheIdentity();
     void filterOffersWhatIsVisible();
     void expandingInOrderType1ShowsSixCellsWhateverFlagsSay();
-    void collapsedTableWithoutAWordShowsNoFilter();
-    void emptyChoiceNeverOverwritesAWord();
-    void choiceIsKeptByOrderType();
-    void orderTypesBeyond3KeepNoChoice();
-    void skippedOrExpandedTablesKeepTheirChoice();
-    void collapsingInOrderType1HidesWhatTheWordLacks_data();
-    void collapsingInOrderType1HidesWhatTheWordLacks();
     void tailVolumeFollowsTheRemainingTargetVolume();
     void visibleByOrderTypeKnowsType13Alone();
     void hidingTheAlgorithmTableHides608And611();
@@ -242,103 +235,6 @@ void tst_Visibility::expandingInOrderType1ShowsSixCellsWhateverFlagsSay()
     table.setExpandItemsHidden(false);
     QCOMPARE(idText(shownCells(*table.m_table)),
              QStringLiteral("0x2 0x4 0x8 0x200 0x400 0x800 0x1000 0x2000 0x2000000"));
-}
-
-void tst_Visibility::collapsedTableWithoutAWordShowsNoFilter()
-{
-    BaseTableProbe table;
-    table.m_table->setVisibleItemSet({TC::OCF_PriceType});
-    table.loadVisibleFlag();
-    QCOMPARE(table.m_table->getVisibleItemIdSet(), QSet<int>());
-
-    table.setExpandItemsHidden(false);
-    table.m_table->setVisibleItemSet({TC::OCF_PriceType});
-    table.loadVisibleFlag();
-    QCOMPARE(table.m_table->getVisibleItemIdSet(), QSet<int>({TC::OCF_PriceType}));
-}
-
-void tst_Visibility::emptyChoiceNeverOverwritesAWord()
-{
-    BaseTableProbe table;
-    table.m_visibleFlags[0] = 0x3;
-    table.m_table->clearVisibleItem();
-    table.saveVisibleFlag(false);
-    QCOMPARE(table.m_visibleFlags[0], 0x3u);
-}
-
-void tst_Visibility::choiceIsKeptByOrderType()
-{
-    BaseTableProbe table;
-    for (int type = 0; type < 4; ++type) {
-        setOrderType(table, type);
-        table.m_table->setVisibleItemSet({0x2, 0x100 << type, 0x4000000});
-        table.saveVisibleFlag(false);
-    }
-    for (int type = 0; type < 4; ++type)
-        QCOMPARE(table.m_visibleFlags[std::size_t(type)], 0x4000002u | (0x100u << type));
-    setOrderType(table, 2);
-    QCOMPARE(idText(table.m_table->getVisibleItemIdSet()), QStringLiteral("0x2 0x400 0x4000000"));
-    QCOMPARE(idText(shownCells(*table.m_table)), QStringLiteral("0x2"));
-}
-
-void tst_Visibility::orderTypesBeyond3KeepNoChoice()
-{
-    for (const int type : {-1, 4, 5, 12, 13}) {
-        BaseTableProbe table;
-        setOrderType(table, type);
-        table.m_table->setVisibleItemSet({0x2});
-        table.saveVisibleFlag(false);
-        for (const quint32 word : table.m_visibleFlags)
-            QCOMPARE(word, 0u);
-        table.loadVisibleFlag();
-        QCOMPARE(table.m_table->getVisibleItemIdSet(), QSet<int>());
-    }
-}
-
-void tst_Visibility::skippedOrExpandedTablesKeepTheirChoice()
-{
-    BaseTableProbe table;
-    table.m_table->setVisibleItemSet({0x1, 0x2});
-    table.saveVisibleFlag(true);
-    QCOMPARE(table.m_visibleFlags[0], 0u);
-    table.saveVisibleFlag(false);
-    QCOMPARE(table.m_visibleFlags[0], 0x3u);
-    table.m_table->setVisibleItemSet({0x2});
-    table.setExpandItemsHidden(false);
-    QCOMPARE(table.m_table->getVisibleItemIdSet(), QSet<int>());
-    QCOMPARE(table.m_visibleFlags[0], 0x3u);
-    table.setExpandItemsHidden(true);
-    QCOMPARE(idText(table.m_table->getVisibleItemIdSet()), QStringLiteral("0x1 0x2"));
-}
-
-void tst_Visibility::collapsingInOrderType1HidesWhatTheWordLacks_data()
-{
-    QTest::addColumn<quint32>("word");
-    QTest::addColumn<QString>("notHidden");
-    const QString always = QStringLiteral("0x1 0x2 0x8 0x10");
-    QTest::newRow("no word") << 0x0u << always + QStringLiteral(" 0x2000000");
-    QTest::newRow("the minimum volume") << 0x200u << always + QStringLiteral(" 0x200 0x2000000");
-    QTest::newRow("the order count") << 0x1000u << always + QStringLiteral(" 0x1000 0x2000000");
-    QTest::newRow("the handling") << 0x2000u << always + QStringLiteral(" 0x2000 0x2000000");
-    QTest::newRow("all of them") << 0x3E00u << always + QStringLiteral(" 0x200 0x400 0x800 0x1000 0x2000 0x2000000");
-}
-
-void tst_Visibility::collapsingInOrderType1HidesWhatTheWordLacks()
-{
-    QFETCH(quint32, word);
-    QFETCH(QString, notHidden);
-    BaseTableProbe table;
-    setOrderType(table, 1);
-    table.setExpandItemsHidden(false);
-    table.m_visibleFlags[1] = word;
-    table.setExpandItemsHidden(true);
-    // Expanding shows all six whatever the rules say, and collapsing takes back only what the word lacks.
-    QSet<int> remaining;
-    for (const int id : ownedCells(table)) {
-        if (!isHidden(*table.m_table, id))
-            remaining.insert(id);
-    }
-    QCOMPARE(idText(remaining), notHidden);
 }
 
 void tst_Visibility::tailVolumeFollowsTheRemainingTargetVolume()
