@@ -6,20 +6,16 @@
 #include "reference/toolkit/cells/RowLayout.h"
 #include "reference/toolkit/cells/ValueCells.h"
 
-#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QScopedValueRollback>
-#include <QWheelEvent>
 
 #include <algorithm>
 
 namespace WQ {
 
 namespace {
-
-constexpr int kManySteps = 10;
 
 // QLineEdit keeps this much free at both ends of its text, and one pixel for the cursor.
 constexpr int kInnerMargin = 2;
@@ -37,20 +33,6 @@ QString sheet(const QFont& font)
         .arg(resources::color(keys::kValue).name(), resources::color(keys::kSelection).name())
         .arg(font.pixelSize())
         .arg(font.family());
-}
-
-bool isOwnKey(const QKeyEvent& event)
-{
-    switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Escape:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        return true;
-    default:
-        return false;
-    }
 }
 
 } // namespace
@@ -75,7 +57,7 @@ QLineEdit* CellEditor::makeField()
             m_client.draftChanged();
     });
     if (m_scale > 0)
-        line->setStyleSheet(sheet(m_font));
+        restyle(*line);
     return line;
 }
 
@@ -83,9 +65,17 @@ void CellEditor::restyle()
 {
     for (QLineEdit* line : m_fields) {
         if (line)
-            line->setStyleSheet(sheet(m_font));
+            restyle(*line);
     }
     update();
+}
+
+void CellEditor::restyle(QLineEdit& line) const
+{
+    line.setStyleSheet(sheet(m_font));
+    QPalette palette = line.palette();
+    palette.setColor(QPalette::PlaceholderText, resources::color(keys::kUnit));
+    line.setPalette(palette);
 }
 
 void CellEditor::open(const CellItem& cell, const QRect& area, const RowMetrics& metrics)
@@ -97,7 +87,10 @@ void CellEditor::open(const CellItem& cell, const QRect& area, const RowMetrics&
     place(area, metrics);
     const bool isLine = cell.kind() == CellKind::Line;
     m_fields[0]->setPlaceholderText(isLine ? static_cast<const LineCell&>(cell).placeholder() : QString());
-    m_fields[0]->setAccessibleName(cell.label());
+    for (QLineEdit* line : m_fields) {
+        if (line)
+            line->setAccessibleName(cell.label());
+    }
     show();
     raise();
 }
@@ -119,12 +112,14 @@ void CellEditor::load(const Draft& draft)
             line = makeField();
         if (!line)
             continue;
+        // Qt would hand the focus of a field that is hidden on to the next widget of the window.
+        if (!isUsed && line->hasFocus())
+            m_fields[0]->setFocus(Qt::OtherFocusReason);
         line->setVisible(isUsed);
         if (!isUsed)
             continue;
         line->setMaxLength(std::max(kLongestText, draft.texts.at(i).size()));
         line->setText(draft.texts.at(i));
-        line->selectAll();
     }
 }
 
@@ -137,6 +132,8 @@ void CellEditor::cellChanged()
     if (isModified || draft() == m_start)
         return;
     load(m_start);
+    if (ownsFocus())
+        field()->selectAll();
     layOut();
 }
 
@@ -144,11 +141,8 @@ void CellEditor::switchPeriod()
 {
     if (!m_cell || m_cell->kind() != CellKind::TimePeriod)
         return;
-    const bool ownedFocus = ownsFocus();
-    // Before a field is hidden: Qt would hand its focus on to the next widget of the window.
-    if (ownedFocus)
-        m_fields[0]->setFocus(Qt::OtherFocusReason);
     load(switchedPeriod(*m_cell, draft()));
+    m_fields[0]->selectAll();
     layOut();
     update();
     m_client.draftChanged();
@@ -271,7 +265,8 @@ void CellEditor::layOut()
 void CellEditor::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painting::drawText(painter, m_separatorArea, m_font, resources::color(keys::kUnit), Qt::AlignCenter, separator());
+    painting::drawText(painter, m_separatorArea, m_font, resources::color(keys::kUnit), Qt::AlignCenter,
+                       separator().trimmed());
     painting::drawText(painter, m_periodArea, m_font, resources::color(keys::kUnit), Qt::AlignLeft | Qt::AlignVCenter,
                        periodText());
 }
@@ -282,83 +277,6 @@ void CellEditor::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton && m_periodArea.contains(event->pos()))
         switchPeriod();
     takeFocusAt(mapToParent(event->pos()));
-}
-
-// Whatever the client does may take the table away, and the field with it.
-bool CellEditor::eventFilter(QObject* watched, QEvent* event)
-{
-    const QPointer<QObject> alive(watched);
-    switch (event->type()) {
-    case QEvent::ShortcutOverride:
-        // A host's shortcut on one of these keys would take it from the edit.
-        if (!isOwnKey(static_cast<QKeyEvent&>(*event)))
-            return false;
-        event->accept();
-        return true;
-    case QEvent::KeyPress:
-        return keyPress(static_cast<QKeyEvent&>(*event)) || !alive;
-    case QEvent::Wheel:
-        return wheel(static_cast<QWheelEvent&>(*event));
-    case QEvent::FocusOut:
-        m_client.focusGone(static_cast<QFocusEvent*>(event)->reason());
-        return !alive;
-    case QEvent::MouseButtonDblClick:
-        m_client.editorDoubleClicked();
-        return !alive;
-    default:
-        return false;
-    }
-}
-
-bool CellEditor::keyPress(QKeyEvent& event)
-{
-    const bool isUp = event.key() == Qt::Key_Up;
-    switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        event.accept();
-        m_client.submitted();
-        return true;
-    case Qt::Key_Escape:
-        event.accept();
-        m_client.reverted();
-        return true;
-    case Qt::Key_Space:
-        return m_client.checkToggled();
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        if (event.modifiers().testFlag(Qt::AltModifier))
-            m_client.alternativesAsked();
-        else
-            step((isUp ? 1 : -1) * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1));
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool CellEditor::wheel(const QWheelEvent& event)
-{
-    if (!ownsFocus() || !m_cell || !stepField(*m_cell, draft(), focusedField(), 0, 0))
-        return false;
-    m_wheelRest += event.angleDelta().y();
-    const int notches = m_wheelRest / QWheelEvent::DefaultDeltasPerStep;
-    m_wheelRest -= notches * QWheelEvent::DefaultDeltasPerStep;
-    if (notches != 0)
-        step(notches * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1));
-    return true;
-}
-
-bool CellEditor::step(int steps)
-{
-    QLineEdit* line = field();
-    const auto stepped =
-        m_cell ? stepField(*m_cell, draft(), std::max(0, focusedField()), line->cursorPosition(), steps) : std::nullopt;
-    if (!stepped)
-        return false;
-    line->setText(stepped->text);
-    line->setSelection(stepped->selectionStart, stepped->selectionLength);
-    return true;
 }
 
 } // namespace WQ

@@ -76,6 +76,7 @@ private:
     int fieldCount() const;
     int focusedField() const;
     QLineEdit* makeField();
+    void restyle(QLineEdit& line) const;
     void load(const Draft& draft);
     void layOut();
     bool keyPress(QKeyEvent& event);

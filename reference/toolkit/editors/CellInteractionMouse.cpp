@@ -209,6 +209,8 @@ void CellInteraction::openFilter()
 
 void CellInteraction::filterChanged()
 {
+    if (!m_table.isFilterEnabled())
+        setFooterFocus(false);
     if (!m_filter || !m_filter->isVisible())
         return;
     if (m_table.isFilterEnabled())

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void escapeClosesTheListAndChangesNothing();
     void theKeyboardFiltersAlone();
     void theFilterIsDeadWhileExpandedOrDisabled();
+    void theFooterLosesTheFocusWithItsUse();
     void expandingClosesTheOpenList();
     void anOpenListFollowsTheProgram();
     void aPendingEditIsCommittedWhenTheFilterOpens();
@@ -186,6 +187,17 @@ void tst_CellFilter::theFilterIsDeadWhileExpandedOrDisabled()
     m_panel->table->setAllItemEnable(true);
     openByMouse();
     QVERIFY(m_panel->filter());
+}
+
+void tst_CellFilter::theFooterLosesTheFocusWithItsUse()
+{
+    m_panel->focusRow(Cell::Text);
+    m_panel->press(Qt::Key_Down);
+    QVERIFY(m_panel->inner().interaction().footerState().focus);
+    m_panel->table->setCustomWidgetVisible(false);
+    QVERIFY(!m_panel->inner().interaction().footerState().focus);
+    m_panel->press(Qt::Key_Up);
+    QCOMPARE(m_panel->inner().currentCell()->id(), static_cast<int>(Cell::Code));
 }
 
 void tst_CellFilter::expandingClosesTheOpenList()

@@ -1,7 +1,5 @@
 #include "EditorPanel.h"
 
-#include "reference/toolkit/editors/PersonEdits.h"
-
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -22,6 +20,7 @@ private Q_SLOTS:
     void escapeOnARowIsTheHostsOwn();
     void keysThatReachTheTableAreTheEditors();
     void aKeyThatTheEditorHasNoUseForReachesTheHostOnce();
+    void aComposedTextOpensTheLine();
     void programmaticChangesSendNothing();
     void noWidgetStandsBeforeAnEditorOpens();
     void theTableMayBeDeletedInAnyEvent_data();
@@ -31,10 +30,6 @@ private Q_SLOTS:
     void disablingTheTableDropsTheEdit();
     void theEditorFollowsItsRow();
     void aNewThemeReachesTheOpenEditor();
-    void oneEditAfterAnotherAsAPerson();
-    void wrongInputOfAPersonKeepsTheValue();
-    void whatNoPersonCouldDoIsRefused();
-    void anOpenEditorIsCommittedBeforeAnEditAsAPerson();
 
 private:
     std::unique_ptr<EditorPanel> m_panel;
@@ -165,6 +160,16 @@ void tst_CellInteraction::aKeyThatTheEditorHasNoUseForReachesTheHostOnce()
     QCOMPARE(counter.count, 2);
     QTest::keyClick(m_panel->line(), Qt::Key_Return);
     QCOMPARE(counter.count, 2);
+}
+
+void tst_CellInteraction::aComposedTextOpensTheLine()
+{
+    m_panel->focusRow(Cell::Remark);
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("季度"));
+    QApplication::sendEvent(m_panel->table, &composed);
+    QVERIFY(m_panel->isEditing(Cell::Remark));
+    QCOMPARE(m_panel->line()->text(), QStringLiteral("季度"));
 }
 
 void tst_CellInteraction::programmaticChangesSendNothing()
@@ -310,104 +315,6 @@ void tst_CellInteraction::aNewThemeReachesTheOpenEditor()
     QVERIFY(WQ::resources::setTheme(QStringLiteral("dark")));
     QVERIFY2(light.contains(QStringLiteral("#18212d")), qPrintable(light));
     QCOMPARE(m_panel->line()->styleSheet(), dark);
-}
-
-void tst_CellInteraction::oneEditAfterAnotherAsAPerson()
-{
-    WQ::PersonEdit edit;
-    edit.unit = QStringLiteral("元");
-    edit.checked = true;
-    edit.text = QStringLiteral("２５０");
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Swing, edit) == WQ::EditOutcome::Done);
-    QCOMPARE(m_panel->host.take(),
-             (QStringList{QStringLiteral("118 cell=4 b=0 text=元"), QStringLiteral("118 cell=4 b=1 text=单向"),
-                          QStringLiteral("87 cell=4 b=0 text=250.000")}));
-    WQ::PersonEdit range;
-    range.range = {QStringLiteral("5"), QStringLiteral("50")};
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Span, range) == WQ::EditOutcome::Done);
-    WQ::PersonEdit entry;
-    entry.text = QStringLiteral("买②价");
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Combo, entry) == WQ::EditOutcome::Done);
-    WQ::PersonEdit length;
-    length.duration = QStringLiteral("00:10:00");
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Period, length) == WQ::EditOutcome::Done);
-    WQ::PersonEdit clock;
-    clock.time = {QStringLiteral("10:00:00"), QStringLiteral("11:00:00")};
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Period, clock) == WQ::EditOutcome::Done);
-    QCOMPARE(
-        m_panel->host.take(),
-        (QStringList{QStringLiteral("87 cell=5 b=0 text=5 - 50"), QStringLiteral("73 cell=1 b=3 text=买②价 data=7"),
-                     QStringLiteral("101 cell=6 b=0 text=09:30:00-15:00:00"),
-                     QStringLiteral("101 cell=6 b=0 text=10:00:00-11:00:00")}));
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Period, clock) == WQ::EditOutcome::Done);
-    QCOMPARE(m_panel->host.take(), QStringList());
-}
-
-void tst_CellInteraction::wrongInputOfAPersonKeepsTheValue()
-{
-    WQ::PersonEdit edit;
-    for (const char* typed : {"", "x", "99", "1000001", "100.5"}) {
-        edit.text = QLatin1String(typed);
-        QVERIFY2(WQ::applyPersonEdit(*m_panel->table, Cell::Least, edit) == WQ::EditOutcome::Wrong, typed);
-    }
-    QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
-    WQ::PersonEdit time;
-    time.time = {QStringLiteral("24:00:00"), QStringLiteral("11:00:00")};
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Period, time) == WQ::EditOutcome::Wrong);
-    WQ::PersonEdit line;
-    line.text = QStringLiteral("abc");
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Code, line) == WQ::EditOutcome::Wrong);
-    QCOMPARE(m_panel->host.take(), QStringList());
-}
-
-void tst_CellInteraction::whatNoPersonCouldDoIsRefused()
-{
-    WQ::CMultiParamsTable& table = *m_panel->table;
-    const auto outcome = [&table](int cell, const WQ::PersonEdit& edit) {
-        return WQ::applyPersonEdit(table, cell, edit) == WQ::EditOutcome::Impossible;
-    };
-    WQ::PersonEdit text;
-    text.text = QStringLiteral("500");
-    WQ::PersonEdit unit = text;
-    unit.unit = QStringLiteral("手");
-    WQ::PersonEdit checked = text;
-    checked.checked = true;
-    WQ::PersonEdit index;
-    index.index = 4;
-    WQ::PersonEdit both = text;
-    both.index = 0;
-    QVERIFY(outcome(4711, text));
-    QVERIFY(outcome(Cell::Least, unit));
-    QVERIFY(outcome(Cell::Least, checked));
-    QVERIFY(outcome(Cell::Combo, index));
-    QVERIFY(outcome(Cell::Combo, text));
-    QVERIFY(outcome(Cell::Combo, both));
-    QVERIFY(outcome(Cell::Span, text));
-    QVERIFY(outcome(Cell::Period, text));
-    table.setItemEditable(Cell::Least, false);
-    QVERIFY(outcome(Cell::Least, text));
-    table.setItemEditable(Cell::Least, true);
-    table.setItemHidden(Cell::Least, true);
-    QVERIFY(outcome(Cell::Least, text));
-    table.setItemHidden(Cell::Least, false);
-    table.hide();
-    QVERIFY(outcome(Cell::Least, text));
-    table.show();
-    table.setAllItemEnable(false);
-    QVERIFY(outcome(Cell::Least, text));
-    QCOMPARE(table.itemInt(Cell::Least), 10000);
-    QCOMPARE(m_panel->host.take(), QStringList());
-}
-
-void tst_CellInteraction::anOpenEditorIsCommittedBeforeAnEditAsAPerson()
-{
-    m_panel->clickValue(Cell::Least);
-    m_panel->type(QStringLiteral("500"));
-    WQ::PersonEdit edit;
-    edit.text = QStringLiteral("1");
-    QVERIFY(WQ::applyPersonEdit(*m_panel->table, Cell::Price, edit) == WQ::EditOutcome::Done);
-    QCOMPARE(m_panel->host.take(),
-             (QStringList{QStringLiteral("87 cell=3 b=0 text=500"), QStringLiteral("87 cell=2 b=0 text=1.00")}));
 }
 
 QTEST_MAIN(tst_CellInteraction)

@@ -1,0 +1,109 @@
+#include "reference/toolkit/editors/CellEditor.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace WQ {
+
+namespace {
+
+constexpr int kManySteps = 10;
+
+bool isOwnKey(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+// Whatever the client does may take the table away, and the field with it.
+bool CellEditor::eventFilter(QObject* watched, QEvent* event)
+{
+    const QPointer<QObject> alive(watched);
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        // A host's shortcut on one of these keys would take it from the edit.
+        if (!isOwnKey(static_cast<QKeyEvent&>(*event)))
+            return false;
+        event->accept();
+        return true;
+    case QEvent::KeyPress:
+        return keyPress(static_cast<QKeyEvent&>(*event)) || !alive;
+    case QEvent::Wheel:
+        return wheel(static_cast<QWheelEvent&>(*event));
+    case QEvent::FocusOut:
+        m_client.focusGone(static_cast<QFocusEvent*>(event)->reason());
+        return !alive;
+    case QEvent::MouseButtonDblClick:
+        m_client.editorDoubleClicked();
+        return !alive;
+    default:
+        return false;
+    }
+}
+
+bool CellEditor::keyPress(QKeyEvent& event)
+{
+    const bool isUp = event.key() == Qt::Key_Up;
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        event.accept();
+        m_client.submitted();
+        return true;
+    case Qt::Key_Escape:
+        event.accept();
+        m_client.reverted();
+        return true;
+    case Qt::Key_Space:
+        return m_client.checkToggled();
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (event.modifiers().testFlag(Qt::AltModifier))
+            m_client.alternativesAsked();
+        else
+            step((isUp ? 1 : -1) * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1));
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool CellEditor::wheel(const QWheelEvent& event)
+{
+    if (!ownsFocus() || !m_cell || !stepField(*m_cell, draft(), focusedField(), 0, 0))
+        return false;
+    m_wheelRest += event.angleDelta().y();
+    const int notches = m_wheelRest / QWheelEvent::DefaultDeltasPerStep;
+    m_wheelRest -= notches * QWheelEvent::DefaultDeltasPerStep;
+    if (notches != 0)
+        step(notches * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1));
+    return true;
+}
+
+bool CellEditor::step(int steps)
+{
+    QLineEdit* line = field();
+    const auto stepped =
+        m_cell ? stepField(*m_cell, draft(), std::max(0, focusedField()), line->cursorPosition(), steps) : std::nullopt;
+    if (!stepped)
+        return false;
+    line->setText(stepped->text);
+    line->setSelection(stepped->selectionStart, stepped->selectionLength);
+    return true;
+}
+
+} // namespace WQ
