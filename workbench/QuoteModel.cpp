@@ -77,7 +77,7 @@ QVariant QuoteModel::text(int row, int column) const
     case Price:
         return QString::number(quote.price, 'f', kPriceDecimals);
     case Volume:
-        return row == kLastRow ? QVariant() : QLocale::c().toString(quote.volume);
+        return row == kLastRow ? QVariant() : QLocale(QLocale::English).toString(quote.volume);
     }
     return {};
 }

@@ -32,10 +32,12 @@ QPalette themePalette()
 
 } // namespace
 
+// A dialog stays at scale 1 with all in it, labels of its host included.
 CBaseDialog::CBaseDialog(QWidget* parent)
     : CEventWidgetT<QDialog>(parent)
 {
     setPalette(themePalette());
+    setFont(resources::font(keys::kTextFont, 1.0));
 }
 
 CBaseDialog::~CBaseDialog() = default;

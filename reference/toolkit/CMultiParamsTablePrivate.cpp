@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -69,6 +70,7 @@ void CMultiParamsTablePrivate::connectModel()
     m_model->setToolTipSource([this](const CellItem& cell) { return toolTipOf(cell); });
     QObject::connect(m_model, &CellModel::filterChanged, m_table, [this] { filterChanged(); });
     QObject::connect(m_model, &CellModel::rowsReplaced, m_table, [this] {
+        takeNeededHeight();
         layout();
         m_table->viewport()->update();
     });
@@ -162,6 +164,17 @@ void CMultiParamsTablePrivate::placeColumns()
     const int label = labelColumn();
     header->resizeSection(CellModel::LabelColumn, label);
     header->resizeSection(CellModel::ValueColumn, std::max(0, m_table->viewport()->width() - label));
+}
+
+// In an area that leaves its widget the size it has, a table whose height nobody fixed would stay as high as it was
+// before it had cells.
+void CMultiParamsTablePrivate::takeNeededHeight()
+{
+    const QWidget* const viewport = m_table->parentWidget();
+    const auto* const area = qobject_cast<const QScrollArea*>(viewport ? viewport->parentWidget() : nullptr);
+    const bool isFree = m_table->minimumHeight() == 0 && m_table->maximumHeight() == QWIDGETSIZE_MAX;
+    if (isFree && area && area->widget() == m_table && !area->widgetResizable())
+        m_table->resize(m_table->width(), contentHeight());
 }
 
 void CMultiParamsTablePrivate::layout()

@@ -149,6 +149,7 @@ public:
 private:
     void connectModel();
     void placeColumns();
+    void takeNeededHeight();
     int labelColumn() const;
     QString elidedTexts(const CellItem& cell) const;
 

@@ -3,6 +3,8 @@
 #include "support/CellText.h"
 #include "support/ModuleGuard.h"
 
+#include "reference/toolkit/Resources.h"
+
 #include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
 #include <OrderParamTable_mini/tables/CGlobalOrderParamTable.h>
 
@@ -75,6 +77,7 @@ private Q_SLOTS:
     void traderType4HasNoFacts();
     void aRecordWithoutAccountShowsNone();
     void anAccountWithoutTableShowsANotice();
+    void theNoticeKeepsItsSizeAtEveryUiScale();
     void operationsWithoutBasePriceHaveSixFacts_data();
     void operationsWithoutBasePriceHaveSixFacts();
     void theBasePriceFollowsBrokerAndPriceType_data();
@@ -203,6 +206,14 @@ void tst_CBaseTaskParamWidget::anAccountWithoutTableShowsANotice()
     QVERIFY(!notice->text().isEmpty());
     QCOMPARE(notice->size(), QSize(220, 310));
     QVERIFY(dialog.handleEvent(5, 0, 0, QString(), nullptr));
+}
+
+void tst_CBaseTaskParamWidget::theNoticeKeepsItsSizeAtEveryUiScale()
+{
+    WQ::resources::setScale(2.0);
+    const DialogProbe dialog(taskOf(8, 1));
+    WQ::resources::setScale(1.0);
+    QCOMPARE(dialog.findChild<QLabel*>()->font().pixelSize(), 12);
 }
 
 void tst_CBaseTaskParamWidget::operationsWithoutBasePriceHaveSixFacts_data()

@@ -2,6 +2,8 @@
 
 #include "reference/toolkit/Resources.h"
 
+#include <WQ/CScrollArea.h>
+
 #include <QAbstractItemModelTester>
 
 using namespace table_fixture;
@@ -15,6 +17,8 @@ private Q_SLOTS:
 
     void visibleSet();
     void realHeightIsExactAtOnce();
+    void aFreeHeightInAnAreaFollowsTheRows();
+    void aFixedHeightStaysAsItsOwnerWants();
     void footerCountsWhileItIsVisible();
     void filterIsEnabledWhileCollapsedAndEnabled();
     void scaleComesFromTheOwnerAlone();
@@ -232,6 +236,32 @@ void tst_CMultiParamsTableRows::currentRowStaysWithItsCell()
     QVERIFY(inside.currentCell());
     QCOMPARE(inside.currentCell()->id(), kInt);
     QCOMPARE(table.currentIndex().row(), 1);
+}
+
+void tst_CMultiParamsTableRows::aFreeHeightInAnAreaFollowsTheRows()
+{
+    WQ::CScrollArea area(nullptr);
+    auto* table = new WQ::CMultiParamsTable(nullptr, true);
+    area.setWidget(table);
+    fill(*table);
+    area.show();
+    QTRY_COMPARE(table->height(), kCells * 26 + 20);
+    table->setItemHidden(kInt, true);
+    QTRY_COMPARE(table->height(), (kCells - 1) * 26 + 20);
+}
+
+void tst_CMultiParamsTableRows::aFixedHeightStaysAsItsOwnerWants()
+{
+    WQ::CScrollArea area(nullptr);
+    auto* table = new WQ::CMultiParamsTable(nullptr, true);
+    area.setWidget(table);
+    fill(*table);
+    table->setFixedHeight(60);
+    area.show();
+    QCoreApplication::processEvents();
+    table->setItemHidden(kInt, true);
+    QTRY_COMPARE(table->model()->rowCount(), kCells - 1);
+    QCOMPARE(table->height(), 60);
 }
 
 QTEST_MAIN(tst_CMultiParamsTableRows)
