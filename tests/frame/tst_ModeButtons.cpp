@@ -32,6 +32,7 @@ private Q_SLOTS:
     void plainModeWithoutPriceTypeSendsNo1061();
     void parameterSetModeIsChosen_data();
     void parameterSetModeIsChosen();
+    void parameterSetModeSendsWhateverPriceTypeItHas();
     void buttonsBelow600AreNotTheTables();
     void tableUnderConstructionNeitherSavesNorAnnounces();
     void modeWithAnOperationSendsNo1206();
@@ -162,6 +163,14 @@ void tst_ModeButtons::parameterSetModeIsChosen()
     panel.table->sendEvent(5, 600, kClick);
     QVERIFY(panel.table->m_table->isVisible());
     QCOMPARE(int(panel.table->priceType()), brokerType == 1 ? 12 : brokerType == 6 ? 5 : 11);
+}
+
+void tst_ModeButtons::parameterSetModeSendsWhateverPriceTypeItHas()
+{
+    Panel panel;
+    panel.table->m_paramPriceType = ttservice::PRTP_NONE;
+    panel.table->sendEvent(5, 605, kClick);
+    QVERIFY(panel.host.take().contains(eventLine(1061, 5, -1, kClick)));
 }
 
 void tst_ModeButtons::buttonsBelow600AreNotTheTables()

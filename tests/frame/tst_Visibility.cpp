@@ -225,6 +225,9 @@ void tst_Visibility::filterOffersWhatIsVisible()
     QCOMPARE(idText(allItems(*table.m_table)), QStringLiteral("0x1 0x2 0x1000000 0x2000000"));
     QCOMPARE(idText(filterBlacklist(*table.m_table)), QStringLiteral("0x100000"));
     QCOMPARE(idText(table.m_table->getVisibleItemIdSet()), QString());
+    table.m_table->setItemFilterBlacklist(TC::OCF_ValidTime, true);
+    setOrderType(table, 2);
+    QCOMPARE(idText(filterBlacklist(*table.m_table)), QString());
 }
 
 void tst_Visibility::expandingInOrderType1ShowsSixCellsWhateverFlagsSay()

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void choiceIsKeptByOrderType();
     void orderTypesBeyond3KeepNoChoice();
     void skippedOrExpandedTablesKeepTheirChoice();
+    void limitPriceLeavesAFilteredTableAgain();
     void collapsingInOrderType1HidesWhatTheWordLacks_data();
     void collapsingInOrderType1HidesWhatTheWordLacks();
 };
@@ -106,6 +107,22 @@ void tst_VisibleWords::skippedOrExpandedTablesKeepTheirChoice()
     QCOMPARE(table.m_visibleFlags[0], 0x3u);
     table.setExpandItemsHidden(true);
     QCOMPARE(idText(table.m_table->getVisibleItemIdSet()), QStringLiteral("0x1 0x2"));
+}
+
+void tst_VisibleWords::limitPriceLeavesAFilteredTableAgain()
+{
+    for (const bool byButton : {false, true}) {
+        BaseTableProbe table;
+        table.m_visibleFlags[1] = 0x2000003;
+        if (byButton)
+            table.sendEvent(5, 601);
+        else
+            setOrderType(table, 1);
+        QCOMPARE(idText(table.m_table->getVisibleItemIdSet()), QStringLiteral("0x1 0x2"));
+        QCOMPARE(idText(shownCells(*table.m_table)), QStringLiteral("0x1 0x2"));
+        QVERIFY(!isHidden(*table.m_table, TC::OCF_LimitPrice));
+        QCOMPARE(table.m_visibleFlags[1], 0x2000003u);
+    }
 }
 
 void tst_VisibleWords::collapsingInOrderType1HidesWhatTheWordLacks_data()
