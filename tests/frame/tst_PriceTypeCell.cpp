@@ -36,6 +36,7 @@ class tst_PriceTypeCell : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void initialListOffersMarketOrdersWithTheirModule();
     void rebuildByIdentity_data();
     void rebuildByIdentity();
     void compositeTableWithoutItsModuleIsEmptied();
@@ -50,6 +51,23 @@ private Q_SLOTS:
     void stockCodeStoresThenRebuilds();
     void tableWithoutPriceTypeCellKeepsItsState();
 };
+
+void tst_PriceTypeCell::initialListOffersMarketOrdersWithTheirModule()
+{
+    const ModuleGuard on({modules::kStockMarketPrice});
+    const QString family = text(" 最优五档即成剩撤=47");
+    for (const int id : {5, 7, 22, 24, 31, 36}) {
+        BaseTableProbe table({id});
+        QCOMPARE(priceTypes(table).endsWith(family), id != 22 && id != 24);
+    }
+    BaseTableProbe point({5, 1001});
+    QVERIFY(!priceTypes(point).contains(family));
+    BaseTableProbe closing({36});
+    closing.setOrderType(ttservice::EOrderType(2));
+    QVERIFY(priceTypes(closing).endsWith(family));
+    closing.setOrderType(ttservice::EOrderType(1));
+    QVERIFY(!priceTypes(closing).contains(family));
+}
 
 void tst_PriceTypeCell::rebuildByIdentity_data()
 {
