@@ -11,7 +11,7 @@ cd "$project_root"
 build_packages=(
     cmake ninja-build g++ ccache
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
-    libboost-dev libbenchmark-dev
+    libboost-dev libbenchmark-dev valgrind
     fontconfig fonts-noto-cjk
 )
 
