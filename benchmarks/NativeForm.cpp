@@ -11,6 +11,7 @@
 #include <QTimeEdit>
 
 #include <array>
+#include <vector>
 
 namespace bench {
 
@@ -189,7 +190,8 @@ NativeForm::NativeForm(const QSet<int>& shown, QWidget* parent)
     : QScrollArea(parent)
 {
     auto* form = new QWidget;
-    auto* layout = new QFormLayout(form);
+    auto* layout = new QFormLayout;
+    form->setLayout(layout);
     for (const Row& row : kRows) {
         auto* label = new QLabel(text(row.label));
         QWidget* field = row.make(row);
