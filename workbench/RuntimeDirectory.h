@@ -2,7 +2,7 @@
 
 namespace workbench {
 
-/// Gives the process a private runtime directory when the session has none, so that Qt need not guess one.
+/// Gives the process a private runtime directory when it has none, so that Qt need not guess one.
 void ensureRuntimeDirectory();
 
 } // namespace workbench

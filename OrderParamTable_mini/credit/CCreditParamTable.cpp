@@ -1,5 +1,6 @@
 #include <OrderParamTable_mini/credit/CCreditParamTable.h>
 
+#include <OrderParamTable_mini/credit/CreditFormat.h>
 #include <OrderParamTable_mini/credit/CreditLayout.h>
 #include <OrderParamTable_mini/frame/Services.h>
 
@@ -11,12 +12,6 @@
 namespace TC {
 
 namespace {
-
-const QString& noText()
-{
-    static const QString text = QString::fromLatin1("");
-    return text;
-}
 
 constexpr int kTextValue = 10;
 constexpr int kParamCellConstant = 4;
@@ -84,6 +79,8 @@ void CCreditParamTable::resizeTable()
 
 void CCreditParamTable::resetColumnWidth()
 {
+    if (!m_table)
+        return;
     const WQ::CUiResource* const resources = WQ::CUiResource::instance();
     const double scale = resources ? resources->getUIScale() : 1.0;
     m_table->setColumnWidth(0, titleColumnWidth(m_operationType, scale));
@@ -105,8 +102,10 @@ void CCreditParamTable::handleScaleChanged()
 {
     if (!m_isFontScale)
         return;
-    m_table->scaleChanged();
-    m_table->setFixedHeight(m_table->realHeight());
+    if (m_table) {
+        m_table->scaleChanged();
+        m_table->setFixedHeight(m_table->realHeight());
+    }
     resizeTable();
     resetColumnWidth();
 }

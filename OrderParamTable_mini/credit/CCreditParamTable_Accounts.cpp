@@ -11,8 +11,6 @@
 
 #include <QPointer>
 
-#include <algorithm>
-
 namespace TC {
 
 using namespace ttservice;
@@ -24,21 +22,6 @@ void touchAccount(const std::string& accountId)
 {
     if (DataCenter* const dataCenter = DataCenter::instance())
         dataCenter->getAccountInfo(accountId);
-}
-
-QString zero()
-{
-    return QStringLiteral("0");
-}
-
-int indexOfAccount(const QVector<QVariant>& accounts, const QString& remembered)
-{
-    if (accounts.isEmpty())
-        return -1;
-    const auto found = std::find_if(accounts.cbegin(), accounts.cend(), [&remembered](const QVariant& account) {
-        return account.toString() == remembered;
-    });
-    return found == accounts.cend() ? 0 : int(found - accounts.cbegin());
 }
 
 } // namespace
@@ -80,7 +63,7 @@ bool CCreditParamTable::sendAccount(int value, const QVariant& account)
 bool CCreditParamTable::sendAndStayAlive(int event, int value, void* payload)
 {
     const QPointer<CCreditParamTable> alive(this);
-    deliverEvent(event, CR_Identity, value, QString::fromLatin1(""), payload);
+    deliverEvent(event, CR_Identity, value, noText(), payload);
     return !alive.isNull();
 }
 
@@ -138,7 +121,7 @@ double CCreditParamTable::getUnRepayNum(std::string compactId)
 QString CCreditParamTable::getAllUnrepayValue(const QString&)
 {
     if (getSelectAccount().isEmpty())
-        return zero();
+        return zeroText();
     switch (unrepaidFormat(m_operationType)) {
     case UnrepaidFormat::Money:
         return moneyText(0.0);
@@ -147,22 +130,22 @@ QString CCreditParamTable::getAllUnrepayValue(const QString&)
     case UnrepaidFormat::None:
         break;
     }
-    return zero();
+    return zeroText();
 }
 
 QString CCreditParamTable::getDefaultUnrepayValue(const QString& code)
 {
     const boost::shared_ptr<CStkCompactsV2> compact = getDefaultCompact(code);
     if (!compact)
-        return zero();
+        return zeroText();
     if (m_operationType == OPT_REPAY_LENDING_FEES)
         return moneyText(compact->unrepaidFees);
-    return repaysSecurities(m_operationType) ? quantityText(compact->unrepaidVolume) : zero();
+    return repaysSecurities(m_operationType) ? quantityText(compact->unrepaidVolume) : zeroText();
 }
 
 QString CCreditParamTable::getTodayAvailableNum(const QString&)
 {
-    return getSelectAccount().isEmpty() ? zero() : quantityText(0);
+    return getSelectAccount().isEmpty() ? zeroText() : quantityText(0);
 }
 
 void CCreditParamTable::refreshUnrepayValue(const QString& value)

@@ -10,12 +10,6 @@ namespace TC {
 
 namespace {
 
-const QString& noText()
-{
-    static const QString text = QString::fromLatin1("");
-    return text;
-}
-
 QString figureText(FigureFormat format, const QVariant& value)
 {
     return format == FigureFormat::Money ? moneyText(value.toDouble()) : quantityText(value.toInt());
@@ -115,11 +109,10 @@ void CCreditParamTable::setStkCompacts(boost::shared_ptr<ttservice::CStkCompacts
 {
     if (!compact || !compact->data)
         return;
-    const QString zero = QStringLiteral("0");
     setFixCodeText(noText(), true, true, std::string());
     compact->data->getKey(); // clients fetch a contract's data when they are asked for its key
-    m_table->setItemText(CR_Funds, zero);
-    m_table->setItemText(CR_Unrepaid, showZero ? zero : unrepayValue);
+    m_table->setItemText(CR_Funds, zeroText());
+    m_table->setItemText(CR_Unrepaid, showZero ? zeroText() : unrepayValue);
     if (repaysSecurities(m_operationType))
         m_table->setItemText(CR_RepayableToday, getTodayAvailableNum(noText()));
     m_useAllCompacts = false;

@@ -4,6 +4,18 @@
 
 namespace TC {
 
+const QString& noText()
+{
+    static const QString text = QString::fromLatin1("");
+    return text;
+}
+
+const QString& zeroText()
+{
+    static const QString text = QStringLiteral("0");
+    return text;
+}
+
 QString quantityText(int value)
 {
     return WQ::formatIntNumber(value, 0, WQ::FormatFlags());

@@ -4,6 +4,10 @@
 
 namespace TC {
 
+/// The empty text, and the text of a figure that is not there.
+const QString& noText();
+const QString& zeroText();
+
 /// A quantity as the credit table shows it: a whole number.
 QString quantityText(int value);
 

@@ -2,6 +2,7 @@
 
 #include <OrderParamTable_mini/semantics/IntSet.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace TC {
@@ -50,6 +51,16 @@ constexpr int kWideTitleColumnWidth = 155;
 constexpr double kScaleTolerance = 0.00001;
 
 } // namespace
+
+int indexOfAccount(const QVector<QVariant>& accounts, const QString& remembered)
+{
+    if (accounts.isEmpty())
+        return -1;
+    const auto found = std::find_if(accounts.cbegin(), accounts.cend(), [&remembered](const QVariant& account) {
+        return account.toString() == remembered;
+    });
+    return found == accounts.cend() ? 0 : int(found - accounts.cbegin());
+}
 
 const CreditLayout* creditLayout(int operation)
 {

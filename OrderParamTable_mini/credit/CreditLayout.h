@@ -2,6 +2,9 @@
 
 #include <ttservice/Enumerations.h>
 
+#include <QVariant>
+#include <QVector>
+
 namespace TC {
 
 /// Rows of the credit table; they continue the numbering of the host's cells and collide with no cell of an order
@@ -37,6 +40,9 @@ struct CreditFigure
     int row;
     FigureFormat format;
 };
+
+/// The account to choose: the first that reads as the remembered one, else the first; -1 when there is none.
+int indexOfAccount(const QVector<QVariant>& accounts, const QString& remembered);
 
 /// How an operation's rows look; each list in the order in which the rows are set. Lists end with row 0.
 struct CreditLayout

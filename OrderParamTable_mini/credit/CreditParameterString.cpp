@@ -1,102 +1,135 @@
 #include <OrderParamTable_mini/credit/CreditParameterString.h>
 
-#include <QStringRef>
 #include <QStringView>
+
+#include <array>
+#include <charconv>
+#include <iterator>
 
 namespace TC {
 
 namespace {
 
-constexpr QChar kGroupSeparator = QLatin1Char('+');
-constexpr QChar kFieldSeparator = QLatin1Char('-');
-constexpr QChar kValueSeparator = QLatin1Char('=');
-constexpr int kFewestFields = 5;
-constexpr int kUsualLength = 256;
+constexpr char16_t kGroupSeparator = u'+';
+constexpr char16_t kFieldSeparator = u'-';
+constexpr char16_t kValueSeparator = u'=';
+constexpr std::size_t kFewestFields = 5;
+constexpr int kUsualLength = 1024;
 
-/// A part of a text, from @c begin up to, not including, @c end.
-struct Piece
+/// As QString::toInt() reads a text; plain short numbers, which are nearly all, without its detours.
+int numberOf(QStringView text)
 {
-    int begin;
-    int end;
+    constexpr int kSafeDigits = 9;
+    int value = 0;
+    bool isPlain = !text.isEmpty() && text.size() <= kSafeDigits;
+    for (const QChar character : text.left(isPlain ? text.size() : 0)) {
+        const int digit = character.unicode() - u'0';
+        isPlain = isPlain && digit >= 0 && digit <= 9;
+        value = value * 10 + (isPlain ? digit : 0);
+    }
+    return isPlain ? value : QString::fromRawData(text.data(), int(text.size())).toInt();
+}
+
+/// A field of a group: a number, or a number and a value.
+struct Field
+{
+    QStringView name;
+    QStringView value;
+    bool hasValue = false;
 };
 
-class Reader
+/// Takes the groups of a text into the remembered values. A group counts from its fifth field on; until then its fields
+/// wait.
+class GroupReader
 {
 public:
-    explicit Reader(const QString& text)
-        : m_text(text)
+    explicit GroupReader(CreditValues& values)
+        : m_values(values)
     {
     }
 
-    int find(QChar separator, int from, int end) const
+    void add(const Field& field)
     {
-        const QChar* const data = m_text.constData();
-        while (from < end && data[from] != separator)
-            ++from;
-        return from;
-    }
-
-    bool hasEnoughFields(Piece group) const
-    {
-        int fields = 1;
-        const QChar* const data = m_text.constData();
-        for (int i = group.begin; i < group.end && fields < kFewestFields; ++i)
-            fields += data[i] == kFieldSeparator ? 1 : 0;
-        return fields >= kFewestFields;
-    }
-
-    /// As QString::toInt() reads the piece; plain short numbers, which are nearly all, without its detours.
-    int number(Piece piece) const
-    {
-        constexpr int kSafeDigits = 9;
-        const int length = piece.end - piece.begin;
-        if (length > 0 && length <= kSafeDigits) {
-            int value = 0;
-            int i = piece.begin;
-            for (; i < piece.end; ++i) {
-                const int digit = m_text.at(i).unicode() - '0';
-                if (digit < 0 || digit > 9)
-                    break;
-                value = value * 10 + digit;
-            }
-            if (i == piece.end)
-                return value;
+        if (m_count < kFewestFields) {
+            m_waiting[m_count++] = field;
+            if (m_count == kFewestFields)
+                takeWaiting();
+            return;
         }
-        return m_text.midRef(piece.begin, length).toInt();
+        take(field);
     }
 
-    QString text(Piece piece) const
+    void endGroup()
     {
-        return m_text.mid(piece.begin, piece.end - piece.begin);
+        m_count = 0;
+        m_rows = nullptr;
     }
 
 private:
-    const QString& m_text;
+    void takeWaiting()
+    {
+        // A key with a value behind it reads as no number.
+        m_operation = m_waiting[0].hasValue ? 0 : numberOf(m_waiting[0].name);
+        for (std::size_t i = 1; i < kFewestFields; ++i)
+            take(m_waiting[i]);
+    }
+
+    void take(const Field& field)
+    {
+        if (!field.hasValue)
+            return;
+        if (!m_rows)
+            m_rows = &m_values[m_operation];
+        const int row = numberOf(field.name);
+        const auto stored = m_rows->find(row);
+        if (stored == m_rows->end())
+            m_rows->insert(m_rows->cend(), row, QVariant(field.value.toString()));
+        else if (stored->userType() == QMetaType::QString)
+            static_cast<QString*>(stored->data())->setUnicode(field.value.data(), int(field.value.size()));
+        else
+            *stored = QVariant(field.value.toString());
+    }
+
+    CreditValues& m_values;
+    QMap<int, QVariant>* m_rows = nullptr;
+    int m_operation = 0;
+    std::array<Field, kFewestFields> m_waiting;
+    std::size_t m_count = 0;
 };
 
-void readEntry(const Reader& reader, Piece entry, QMap<int, QVariant>*& rows, CreditValues& values, int operation)
+/// Reads one field from @p begin on and answers where it ends: at a separator of fields or groups, or at @p end.
+const QChar* readField(const QChar* begin, const QChar* end, Field& field)
 {
-    const int separator = reader.find(kValueSeparator, entry.begin, entry.end);
-    if (separator == entry.end)
-        return;
-    const int valueEnd = reader.find(kValueSeparator, separator + 1, entry.end);
-    if (!rows)
-        rows = &values[operation];
-    rows->insert(reader.number({entry.begin, separator}), QVariant(reader.text({separator + 1, valueEnd})));
+    const QChar* firstEquals = nullptr;
+    const QChar* secondEquals = nullptr;
+    const QChar* at = begin;
+    for (; at != end && *at != kFieldSeparator && *at != kGroupSeparator; ++at) {
+        if (*at != kValueSeparator)
+            continue;
+        if (!firstEquals)
+            firstEquals = at;
+        else if (!secondEquals)
+            secondEquals = at;
+    }
+    field.hasValue = firstEquals != nullptr;
+    field.name = QStringView(begin, firstEquals ? firstEquals : at);
+    field.value = firstEquals ? QStringView(firstEquals + 1, secondEquals ? secondEquals : at) : QStringView();
+    return at;
 }
 
-void readGroup(const Reader& reader, Piece group, CreditValues& values)
+void appendNumber(QString& text, int number)
 {
-    if (!reader.hasEnoughFields(group))
-        return;
-    int fieldEnd = reader.find(kFieldSeparator, group.begin, group.end);
-    const int operation = reader.number({group.begin, fieldEnd});
-    QMap<int, QVariant>* rows = nullptr;
-    while (fieldEnd < group.end) {
-        const int begin = fieldEnd + 1;
-        fieldEnd = reader.find(kFieldSeparator, begin, group.end);
-        readEntry(reader, {begin, fieldEnd}, rows, values, operation);
-    }
+    char digits[16];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    text.append(QLatin1String(digits, int(end - digits)));
+}
+
+void appendValue(QString& text, const QVariant& value)
+{
+    if (value.userType() == QMetaType::QString)
+        text.append(*static_cast<const QString*>(value.constData()));
+    else
+        text.append(value.toString());
 }
 
 } // namespace
@@ -105,15 +138,15 @@ QString writeCreditParameters(int operationType, const CreditValues& values)
 {
     QString text;
     text.reserve(kUsualLength);
-    text += QString::number(operationType);
+    appendNumber(text, operationType);
     for (auto group = values.cbegin(); group != values.cend(); ++group) {
-        text += kGroupSeparator;
-        text += QString::number(group.key());
+        text.append(QChar(kGroupSeparator));
+        appendNumber(text, group.key());
         for (auto row = group->cbegin(); row != group->cend(); ++row) {
-            text += kFieldSeparator;
-            text += QString::number(row.key());
-            text += kValueSeparator;
-            text += row->toString();
+            text.append(QChar(kFieldSeparator));
+            appendNumber(text, row.key());
+            text.append(QChar(kValueSeparator));
+            appendValue(text, *row);
         }
     }
     return text;
@@ -121,16 +154,19 @@ QString writeCreditParameters(int operationType, const CreditValues& values)
 
 bool readCreditParameters(const QString& text, int& operationType, CreditValues& values)
 {
-    const Reader reader(text);
-    const int length = text.size();
-    int partEnd = reader.find(kGroupSeparator, 0, length);
-    if (partEnd == length)
+    const int first = text.indexOf(QChar(kGroupSeparator));
+    if (first < 0)
         return false;
-    operationType = reader.number({0, partEnd});
-    while (partEnd < length) {
-        const int begin = partEnd + 1;
-        partEnd = reader.find(kGroupSeparator, begin, length);
-        readGroup(reader, {begin, partEnd}, values);
+    operationType = numberOf(QStringView(text).left(first));
+    GroupReader groups(values);
+    const QChar* const end = text.constData() + text.size();
+    const QChar* at = text.constData() + first;
+    while (at != end) {
+        if (*at == kGroupSeparator)
+            groups.endGroup();
+        Field field;
+        at = readField(at + 1, end, field);
+        groups.add(field);
     }
     return true;
 }

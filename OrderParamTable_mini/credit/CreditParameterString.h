@@ -15,7 +15,7 @@ QString writeCreditParameters(int operationType, const CreditValues& values);
 
 /// Reads a credit parameter string into @p operationType and merges its groups into @p values. Answers false, and
 /// changes nothing, for a text without a group separator. Groups of less than four entries and entries without "=" are
-/// skipped, what is not a number reads as 0. One pass, no lists.
+/// skipped, what is not a number reads as 0. One pass over the text, no lists.
 bool readCreditParameters(const QString& text, int& operationType, CreditValues& values);
 
 } // namespace TC

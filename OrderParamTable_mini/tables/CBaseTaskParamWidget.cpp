@@ -1,16 +1,15 @@
 #include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
 
-#include <OrderParamTable_mini/frame/Services.h>
 #include <OrderParamTable_mini/semantics/OrderModes.h>
 #include <OrderParamTable_mini/tables/CGlobalOrderParamTable.h>
 #include <OrderParamTable_mini/tables/TaskFacts.h>
+#include <OrderParamTable_mini/tables/TaskNotice.h>
 #include <OrderParamTable_mini/tables/TaskTables.h>
 
 #include <WQ/CPushButton.h>
 
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace TC {
@@ -31,19 +30,6 @@ QString contractImage()
     return QStringLiteral("tc_img_operation_contract_btn");
 }
 
-/// Stands in the table's place for accounts that have none.
-QWidget* createNotice(QWidget* parent)
-{
-    auto* const notice = new QLabel(QStringLiteral("该账户类型没有可显示的参数"), parent);
-    notice->setAlignment(Qt::AlignCenter);
-    notice->setWordWrap(true);
-    notice->setFixedSize(taskTableWidth(), kTaskTableHeight);
-    QPalette palette = notice->palette();
-    palette.setColor(QPalette::WindowText, resourceColor(QStringLiteral("clr_global_text")));
-    notice->setPalette(palette);
-    return notice;
-}
-
 } // namespace
 
 CBaseTaskParamWidget::CBaseTaskParamWidget(CCodeOrderParam& param, QString tradeParam, QWidget* parent, bool flag,
@@ -59,7 +45,14 @@ CBaseTaskParamWidget::CBaseTaskParamWidget(CCodeOrderParam& param, QString trade
     setAttribute(Qt::WA_DeleteOnClose);
 }
 
-CBaseTaskParamWidget::~CBaseTaskParamWidget() = default;
+// The children go after this; they have nothing to report then.
+CBaseTaskParamWidget::~CBaseTaskParamWidget()
+{
+    if (m_table)
+        m_table->disconnect(this);
+    if (m_expandButton)
+        m_expandButton->disconnect(this);
+}
 
 void CBaseTaskParamWidget::createUi(const CCodeOrderParam& param, QString tradeParam, std::string extra)
 {
@@ -68,7 +61,10 @@ void CBaseTaskParamWidget::createUi(const CCodeOrderParam& param, QString tradeP
     auto* const column = new QVBoxLayout;
     column->setContentsMargins(0, 0, 0, 0);
     m_table = createTaskTable(param, {m_traderType, false, m_tableFlag}, tradeParam, extra, this);
-    column->addWidget(m_table ? m_table : createNotice(this), 1);
+    QWidget* const shown = m_table ? static_cast<QWidget*>(m_table) : new TaskNotice(this);
+    column->addWidget(shown, 1);
+    if (m_table)
+        connect(m_table, &QObject::destroyed, this, [this] { m_table = nullptr; });
     createExpandButton(param.orderType, column);
     root->addLayout(column);
     if (m_traderType != TRADER_TYPE_4)
@@ -81,6 +77,7 @@ void CBaseTaskParamWidget::createExpandButton(EOrderType orderType, QBoxLayout* 
     m_expandButton = new WQ::CPushButton(QStringLiteral("tc_img_operation_showhide_btn"), 0, 4, 25, 3, 17, this);
     m_expandButton->setIcon(expandImage(), WQ::IconAlignCenter, 0);
     m_expandButton->setFixedHeight(kButtonHeight);
+    connect(m_expandButton, &QObject::destroyed, this, [this] { m_expandButton = nullptr; });
     column->addWidget(m_expandButton, 0);
     if (orderType == ORDER_TYPE_NORMAL || !m_table)
         m_expandButton->hide();
@@ -103,7 +100,8 @@ bool CBaseTaskParamWidget::handleEvent(int event, int a, int b, QString text, vo
     if (event != 5)
         return WQ::CBaseDialog::handleEvent(event, a, b, text, payload);
     m_expanded = !m_expanded;
-    m_expandButton->setIcon(m_expanded ? contractImage() : expandImage(), WQ::IconAlignCenter, 0);
+    if (m_expandButton)
+        m_expandButton->setIcon(m_expanded ? contractImage() : expandImage(), WQ::IconAlignCenter, 0);
     if (m_table)
         m_table->setExpandItemsHidden(!m_expanded);
     return true;

@@ -25,7 +25,6 @@ protected:
     void reloadParam() override;
     /// @}
 
-private:
     QString m_stopLossPrice;
     QString m_secondStopLoss;
 };

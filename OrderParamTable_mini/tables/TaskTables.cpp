@@ -3,6 +3,8 @@
 #include <OrderParamTable_mini/frame/Services.h>
 #include <OrderParamTable_mini/tables/CGlobalOrderParamTable.h>
 
+#include <QPointer>
+
 namespace TC {
 
 using namespace ttservice;
@@ -84,10 +86,13 @@ CGlobalOrderParamTable* createTaskTable(const CCodeOrderParam& task, const TaskT
     if (!row)
         return nullptr;
     const bool lastFlag = row->takesTableFlag && !choice.isBasket && choice.tableFlag;
-    auto* const table =
+    const QPointer<CGlobalOrderParamTable> table =
         new CGlobalOrderParamTable(row->identity, row->broker, true, parent, false, traderOf(*row, choice), lastFlag);
+    // The operation is announced to the host, who may do anything with the table.
     if (row->appliesOperation)
         table->setOperationType(task.operationType);
+    if (!table)
+        return nullptr;
     if (const int flags = flagsOf(*row, choice, task.orderType))
         table->setFlag(OperationCellFlags(flags));
     if (!choice.isBasket)

@@ -21,7 +21,7 @@ struct TaskTableChoice
 };
 
 /// The read-only table for one task of order type @p orderType, a child of @p parent; null for a task without an
-/// account and for a broker type that has no table.
+/// account, for a broker type that has no table, and when the host deletes the table on hearing of it.
 CGlobalOrderParamTable* createTaskTable(const ttservice::CCodeOrderParam& task, const TaskTableChoice& choice,
                                         const QString& tradeParam, const std::string& extra, QWidget* parent);
 

@@ -21,6 +21,18 @@ QDate dayOf(qint64 seconds)
     return QDate(year, month, day);
 }
 
+/// A time of day that daylight saving skips is as far into the day as it would be without the change.
+QDateTime onDay(QDateTime dateTime, const QDate& day)
+{
+    const QTime timeOfDay = dateTime.time();
+    dateTime.setDate(day);
+    dateTime.setTime(timeOfDay);
+    if (dateTime.isValid() || !day.isValid())
+        return dateTime;
+    const int offset = QDateTime(day.addDays(-1), QTime(12, 0)).offsetFromUtc();
+    return QDateTime(day, timeOfDay, Qt::OffsetFromUTC, offset);
+}
+
 } // namespace
 
 ValidTime validTimeFrom(qint64 start, int length)
@@ -32,10 +44,7 @@ ValidTime validTimeFrom(qint64 start, int length)
 ValidTime validTimeOnDay(const ValidTime& range, qint64 now)
 {
     const auto length = int(quint32(range.end) - quint32(range.start));
-    QDateTime start = WQ::secondToQDateTime(range.start);
-    const QTime timeOfDay = start.time();
-    start.setDate(dayOf(now));
-    start.setTime(timeOfDay);
+    const QDateTime start = onDay(WQ::secondToQDateTime(range.start), dayOf(now));
     return validTimeFrom(WQ::qDateTimeToSecond(start), length);
 }
 

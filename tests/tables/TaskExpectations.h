@@ -38,7 +38,7 @@ constexpr TaskRow kTaskRows[] = {
 };
 // clang-format on
 
-constexpr int kTaskOrderTypes[] = {0, 1, 2, 3, 5, 12, 13};
+constexpr int kTaskOrderTypes[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13};
 
 /// A task of operation 18.
 inline ttservice::CCodeOrderParam taskOf(int broker, int orderType)
@@ -53,6 +53,31 @@ inline ttservice::CCodeOrderParam taskOf(int broker, int orderType)
     task.price = 10.23;
     task.volume = 12000;
     return task;
+}
+
+/// What a table was constructed with, of which most tables show nothing.
+class TableReader : public TC::CGlobalOrderParamTable
+{
+public:
+    static QString construction(const TC::CGlobalOrderParamTable& table)
+    {
+        return QStringLiteral("%1 broker %2 trader %3%4%5%6")
+            .arg(table.getId())
+            .arg(table.*(&TableReader::m_brokerType))
+            .arg(table.*(&TableReader::m_traderType))
+            .arg(QLatin1String(table.*(&TableReader::m_showModeButtons) ? " buttons" : ""),
+                 QLatin1String(table.*(&TableReader::m_tableFontScale) ? " scales" : ""),
+                 QLatin1String(table.*(&TableReader::m_lastFlag) ? " book" : ""));
+    }
+};
+
+inline QString constructionText(int identity, int broker, int trader, bool book)
+{
+    return QStringLiteral("%1 broker %2 trader %3 buttons%4")
+        .arg(identity)
+        .arg(broker)
+        .arg(trader)
+        .arg(QLatin1String(book ? " book" : ""));
 }
 
 /// A table as a person sees it: which cells it has, hidden or shown, and what they hold.

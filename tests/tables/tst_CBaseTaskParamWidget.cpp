@@ -1,6 +1,7 @@
 #include "TaskExpectations.h"
 
 #include "support/CellText.h"
+#include "support/EventLog.h"
 #include "support/ModuleGuard.h"
 
 #include "reference/toolkit/Resources.h"
@@ -14,7 +15,6 @@
 
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPointer>
 #include <QtTest>
 
@@ -59,6 +59,7 @@ public:
 
 const QString kExpand = QStringLiteral("tc_img_operation_expand_btn");
 const QString kContract = QStringLiteral("tc_img_operation_contract_btn");
+const QString kNotice = QStringLiteral("task_param_notice");
 constexpr double kLargest = std::numeric_limits<double>::max();
 
 } // namespace
@@ -92,6 +93,8 @@ private Q_SLOTS:
     void otherEventsGoToTheBase();
     void aPersonsClickExpands();
     void longNamesAreKept();
+    void aTableDeletedByItsHostLeavesTheNotice();
+    void aDeletedTableOrButtonIsNotTouchedAgain();
     void closingDeletesDialogAndTable_data();
     void closingDeletesDialogAndTable();
     void twoHundredDialogsLeaveNoWidgetBehind();
@@ -119,21 +122,25 @@ void tst_CBaseTaskParamWidget::theTableFollowsTheBrokerType()
     QFETCH(int, orderType);
     QFETCH(int, trader);
     const TaskRow& expected = kTaskRows[row];
-    const DialogProbe dialog(taskOf(expected.broker, orderType), trader);
+    const DialogProbe dialog(taskOf(expected.broker, orderType), trader, true);
     QVERIFY(dialog.m_table);
-    QCOMPARE(int(dialog.m_table->getId()), expected.identity);
+    const int shownTrader = expected.trader == 0 ? trader : expected.trader;
+    const bool book = expected.broker == 2;
+    QCOMPARE(TableReader::construction(*dialog.m_table),
+             constructionText(expected.identity, expected.broker, shownTrader, book));
+    QCOMPARE(dialog.m_table->size(), QSize(220, 310));
     QCOMPARE(int(dialog.m_table->orderType()), 0);
     QCOMPARE(int(dialog.m_table->getOperationType()), expected.appliesOperation ? 18 : -1);
     int flags = 0;
-    if (orderType == 0)
+    const int shownType = orderType == 6 ? 0 : orderType == 7 ? 1 : orderType;
+    if (shownType == 0)
         flags = expected.broker == 1 && trader != 4 ? 0x7700003 : 0x7100003;
-    else if (orderType == 1 || (orderType == 2 && expected.broker == 2))
+    else if (shownType == 1 || (shownType == 2 && expected.broker == 2))
         flags = trader == 4 ? expected.flagsOfTrader4 : expected.flags;
-    const TaskTableProbe peer(expected.identity, expected.broker, expected.trader == 0 ? trader : expected.trader,
-                              false);
+    const TaskTableProbe peer(expected.identity, expected.broker, shownTrader, book);
     QCOMPARE(tableText(*dialog.m_table), peer.textAfter(expected.appliesOperation, flags, flags != 0));
     QCOMPARE(dialog.facts().size(), trader == 4 ? 0 : 7);
-    QCOMPARE(dialog.m_expandButton->isHidden(), orderType == 0);
+    QCOMPARE(dialog.m_expandButton->isHidden(), shownType == 0);
 }
 
 void tst_CBaseTaskParamWidget::theTableFlagReachesStockTablesAlone()
@@ -192,7 +199,7 @@ void tst_CBaseTaskParamWidget::aRecordWithoutAccountShowsNone()
     QCOMPARE(dialog.factTexts().value(0), QStringLiteral("    账号="));
     QCOMPARE(dialog.factTexts().value(1), QStringLiteral("账号名称=空"));
     QCOMPARE(dialog.factTexts().value(6), QStringLiteral("  基准价=10.230"));
-    QVERIFY(dialog.findChild<QLabel*>());
+    QVERIFY(dialog.findChild<QWidget*>(kNotice));
 }
 
 void tst_CBaseTaskParamWidget::anAccountWithoutTableShowsANotice()
@@ -201,9 +208,9 @@ void tst_CBaseTaskParamWidget::anAccountWithoutTableShowsANotice()
     QVERIFY(!dialog.m_table);
     QVERIFY(dialog.m_expandButton->isHidden());
     QCOMPARE(dialog.facts().size(), 7);
-    const QLabel* const notice = dialog.findChild<QLabel*>();
+    const auto* const notice = dialog.findChild<QWidget*>(kNotice);
     QVERIFY(notice);
-    QVERIFY(!notice->text().isEmpty());
+    QVERIFY(!notice->accessibleName().isEmpty());
     QCOMPARE(notice->size(), QSize(220, 310));
     QVERIFY(dialog.handleEvent(5, 0, 0, QString(), nullptr));
 }
@@ -213,7 +220,7 @@ void tst_CBaseTaskParamWidget::theNoticeKeepsItsSizeAtEveryUiScale()
     WQ::resources::setScale(2.0);
     const DialogProbe dialog(taskOf(8, 1));
     WQ::resources::setScale(1.0);
-    QCOMPARE(dialog.findChild<QLabel*>()->font().pixelSize(), 12);
+    QCOMPARE(dialog.findChild<QWidget*>(kNotice)->font().pixelSize(), 12);
 }
 
 void tst_CBaseTaskParamWidget::operationsWithoutBasePriceHaveSixFacts_data()
@@ -344,6 +351,7 @@ void tst_CBaseTaskParamWidget::twoClicksBringTheFirstIconBack()
     DialogProbe dialog(taskOf(2, 1));
     QCOMPARE(dialog.m_expandButton->iconKey(), kExpand);
     QVERIFY(!dialog.m_table->isExpand());
+    const QSet<int> shown = support::shownCells(*dialog.m_table->getMultiParamsTable());
     QVERIFY(dialog.handleEvent(5, 0, 0, QString(), nullptr));
     QCOMPARE(dialog.m_expandButton->iconKey(), kContract);
     QVERIFY(dialog.m_table->isExpand());
@@ -351,6 +359,7 @@ void tst_CBaseTaskParamWidget::twoClicksBringTheFirstIconBack()
     QCOMPARE(dialog.m_expandButton->iconKey(), kExpand);
     QVERIFY(!dialog.m_table->isExpand());
     QVERIFY(!dialog.m_expanded);
+    QCOMPARE(support::shownCells(*dialog.m_table->getMultiParamsTable()), shown);
 }
 
 void tst_CBaseTaskParamWidget::everyButtonExpands()
@@ -386,6 +395,31 @@ void tst_CBaseTaskParamWidget::longNamesAreKept()
     const DialogProbe dialog(task);
     QCOMPARE(dialog.facts().value(3)->text(), QStringLiteral("很长的名称").repeated(200));
     QCOMPARE(dialog.facts().value(3)->maximumWidth(), 200);
+}
+
+void tst_CBaseTaskParamWidget::aTableDeletedByItsHostLeavesTheNotice()
+{
+    const support::ClientModeGuard mode(100);
+    support::EventLog host;
+    host.onEvent = [&host](int event) {
+        if (event == 1244)
+            delete host.findChild<TC::CGlobalOrderParamTable*>();
+    };
+    const DialogProbe dialog(taskOf(2, 1), 1, false, &host);
+    QVERIFY(!dialog.m_table);
+    QVERIFY(dialog.m_expandButton->isHidden());
+    QVERIFY(dialog.findChild<QWidget*>(kNotice));
+    QCOMPARE(dialog.facts().size(), 7);
+}
+
+void tst_CBaseTaskParamWidget::aDeletedTableOrButtonIsNotTouchedAgain()
+{
+    DialogProbe dialog(taskOf(2, 1));
+    delete dialog.m_table;
+    QVERIFY(dialog.handleEvent(5, 0, 0, QString(), nullptr));
+    delete dialog.m_expandButton;
+    QVERIFY(dialog.handleEvent(5, 0, 0, QString(), nullptr));
+    QVERIFY(!dialog.m_expanded);
 }
 
 void tst_CBaseTaskParamWidget::closingDeletesDialogAndTable_data()

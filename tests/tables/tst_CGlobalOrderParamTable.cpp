@@ -15,8 +15,8 @@ COrderSetting markedSetting()
     return setting;
 }
 
-/// Counts what reaches the base table's store of algorithm parameters: nothing may while the base is inert, so the
-/// answer is all there is to see.
+/// The base table's store of algorithm parameters is inert, so that a type inside the band answers like one outside;
+/// the band itself is the rule isSingleOrderAlgorithm() and tested there.
 QString algorithmParam(const GlobalTableProbe& table, int type)
 {
     return table.getSingleNvAlgoUiParam(EOrderType(type));
@@ -75,7 +75,7 @@ void tst_CGlobalOrderParamTable::aStockCodeIsIgnored()
 void tst_CGlobalOrderParamTable::anEmptyParameterStringAddsTheRecord()
 {
     GlobalTableProbe table;
-    table.setParam(QString());
+    table.setParam(QStringLiteral(""));
     QCOMPARE(table.recordCount(), 1);
     QVERIFY(table.hasRecord(0));
 }

@@ -151,6 +151,7 @@ void tst_CHpfBasketTaskParamWidget::aMissingPieceStopsTheSwap_data()
     QTest::newRow("first view") << 0;
     QTest::newRow("second view") << 1;
     QTest::newRow("button") << 2;
+    QTest::newRow("column layout") << 3;
 }
 
 void tst_CHpfBasketTaskParamWidget::aMissingPieceStopsTheSwap()
@@ -159,10 +160,14 @@ void tst_CHpfBasketTaskParamWidget::aMissingPieceStopsTheSwap()
     FilledBasket basket;
     BasketProbe& dialog = basket.dialog;
     dialog.setLayout(dialog.m_rootLayout);
-    (missing == 0 ? dialog.m_firstView : missing == 1 ? dialog.m_secondView : dialog.m_swapButton) = nullptr;
+    const QBoxLayout* const column = dialog.m_columnLayout;
+    if (missing == 3)
+        dialog.m_columnLayout = nullptr;
+    else
+        (missing == 0 ? dialog.m_firstView : missing == 1 ? dialog.m_secondView : dialog.m_swapButton) = nullptr;
     const QString title = dialog.windowTitle();
     dialog.reloadWidget(true);
-    QCOMPARE(basket.column(), QList<QWidget*>());
+    QCOMPARE(column->count(), 0);
     QCOMPARE(dialog.windowTitle(), title);
 }
 
@@ -209,7 +214,8 @@ void tst_CHpfBasketTaskParamWidget::creatTableFollowsTheBrokerType()
     TC::CGlobalOrderParamTable* const table = dialog.table(taskOf(expected.broker, orderType));
     QVERIFY(table);
     QCOMPARE(table->parentWidget(), &dialog);
-    QCOMPARE(int(table->getId()), expected.identity);
+    QCOMPARE(TableReader::construction(*table),
+             constructionText(expected.identity, expected.broker, expected.basketTrader, false));
     QCOMPARE(int(table->getOperationType()), expected.appliesOperation ? 18 : -1);
     QCOMPARE(table->size(), QSize(220, 310));
     QCOMPARE(table->minimumSize(), table->maximumSize());

@@ -144,15 +144,16 @@ void tst_CodeAndStopLossTables::theDefaultParamIsADefaultRecord()
 
 void tst_CodeAndStopLossTables::theCodeTableSeesACodeAsTheBaseDoes()
 {
-    CodeTableProbe table(36, 2, true, 1, true);
-    const QString initial = support::comboEntries(*table.getMultiParamsTable(), 1);
+    CodeTableProbe table(36, 10, true, 1, true);
+    QCOMPARE(support::comboEntries(*table.getMultiParamsTable(), 1),
+             QStringLiteral("*最新价=5 挂单价=13 对手价=14 卖⑤价=0 卖④价=1 卖③价=2 卖②价=3 卖①价=4 "
+                            "买①价=6 买②价=7 买③价=8 买④价=9 买⑤价=10"));
     table.setStockCode(QStringLiteral("600000"));
     QCOMPARE(table.getStockCode(), QStringLiteral("600000"));
-    // Table 36 rebuilds with counter-party, previous close and book prices; identity 36 types no price.
-    const QString rebuilt = QStringLiteral("*挂单价=13 对手价=14 昨收价=16 卖⑤价=0 卖④价=1 卖③价=2 卖②价=3 卖①价=4 "
-                                           "最新价=5 买①价=6 买②价=7 买③价=8 买④价=9 买⑤价=10");
-    QCOMPARE(support::comboEntries(*table.getMultiParamsTable(), 1), rebuilt);
-    QCOMPARE(initial, rebuilt);
+    // Table 36 rebuilds with own-side, counter-party and book prices; it types no price.
+    QCOMPARE(support::comboEntries(*table.getMultiParamsTable(), 1),
+             QStringLiteral("*挂单价=13 对手价=14 卖⑤价=0 卖④价=1 卖③价=2 卖②价=3 卖①价=4 最新价=5 "
+                            "买①价=6 买②价=7 买③价=8 买④价=9 买⑤价=10"));
 }
 
 void tst_CodeAndStopLossTables::saveParamFlagRecordsTheChoiceWhileCollapsed()

@@ -87,6 +87,13 @@ void tst_ValidTime::theRangeOfARecordMovesOntoToday_data()
     QTest::newRow("over the autumn change, the end's time of day moves")
         << newYork << utc("2026-11-01T15:00:00Z") << utc("2026-10-30T04:30:00Z") << utc("2026-10-30T08:30:00Z")
         << utc("2026-11-01T04:30:00Z") << utc("2026-11-01T08:30:00Z");
+    // 02:30 is not on that day's clock: it is the instant that would be 02:30 without the change.
+    QTest::newRow("a start that the spring change skips")
+        << newYork << utc("2026-03-08T15:00:00Z") << utc("2026-03-06T07:30:00Z") << utc("2026-03-06T08:30:00Z")
+        << utc("2026-03-08T07:30:00Z") << utc("2026-03-08T08:30:00Z");
+    QTest::newRow("a start that a change at midnight skips")
+        << QByteArray("America/Sao_Paulo") << utc("2018-11-04T15:00:00Z") << utc("2018-10-30T03:30:00Z")
+        << utc("2018-10-30T04:30:00Z") << utc("2018-11-04T03:30:00Z") << utc("2018-11-04T04:30:00Z");
     QTest::newRow("over the end of a month")
         << shanghai << utc("2026-02-28T16:10:00Z") << utc("2026-02-28T01:30:00Z") << utc("2026-02-28T07:00:00Z")
         << utc("2026-03-01T01:30:00Z") << utc("2026-03-01T07:00:00Z");
