@@ -52,6 +52,7 @@ CreditPanel::CreditPanel(QWidget* parent)
     , m_texts(new LanguageTexts(this))
     , m_table(new TC::CCreditParamTable(this))
     , m_operation(new NumberCombo(creditOperations(), ttservice::OPT_REPAY_SECURITIES_BY_BUYING))
+    , m_account(new QLineEdit)
     , m_code(new QLineEdit(QStringLiteral("600000")))
     , m_param(new QLineEdit(creditParam(ttservice::OPT_REPAY_SECURITIES_BY_BUYING)))
     , m_answers(new QLabel)
@@ -97,12 +98,18 @@ void CreditPanel::createForm(QFormLayout* form)
         contract->setText(translated(QT_TRANSLATE_NOOP("workbench", "Choose a contract")));
         m_operation->retranslate();
     });
+    QPushButton* select =
+        addEntry(form, m_account, QT_TRANSLATE_NOOP("workbench", "Account"), QT_TRANSLATE_NOOP("workbench", "Select"));
     QPushButton* enter =
         addEntry(form, m_code, QT_TRANSLATE_NOOP("workbench", "Code"), QT_TRANSLATE_NOOP("workbench", "Enter"));
     QPushButton* load = addEntry(form, m_param, QT_TRANSLATE_NOOP("workbench", "Parameter string"),
                                  QT_TRANSLATE_NOOP("workbench", "Load"));
     form->addRow(contract);
     connect(m_operation, &NumberCombo::valueChanged, this, &CreditPanel::setOperation);
+    connect(select, &QPushButton::clicked, this, [this] {
+        m_table->setSelectAccount(m_account->text().toStdString());
+        showAnswers();
+    });
     connect(enter, &QPushButton::clicked, this, [this] {
         m_table->setStockCode(m_code->text(), std::string(), false);
         showAnswers();
@@ -119,6 +126,7 @@ void CreditPanel::setAccounts(const QStringList& accounts)
     QVector<QVariant> values;
     for (const QString& account : accounts)
         values << account;
+    m_account->setText(accounts.value(0));
     cellTable->resetComboData(kAccountRow, accounts, values, accounts.isEmpty() ? -1 : 0);
     showAnswers();
 }

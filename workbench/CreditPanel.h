@@ -47,6 +47,7 @@ private:
     LanguageTexts* m_texts;
     TC::CCreditParamTable* m_table;
     NumberCombo* m_operation;
+    QLineEdit* m_account;
     QLineEdit* m_code;
     QLineEdit* m_param;
     QLabel* m_answers;

@@ -37,8 +37,11 @@ void HostTable::fit()
 
 void HostTable::keyPressEvent(QKeyEvent* event)
 {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->matches(QKeySequence::Copy))
         Q_EMIT copyRequested();
+    else if (isEnter && currentIndex().isValid())
+        Q_EMIT enterPressed(currentIndex());
     else
         QTableView::keyPressEvent(event);
 }

@@ -23,6 +23,9 @@ Q_SIGNALS:
     /// A person asked for a copy of the selected rows.
     void copyRequested();
 
+    /// A person pressed Enter on a row.
+    void enterPressed(const QModelIndex& index);
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;

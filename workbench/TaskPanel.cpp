@@ -35,7 +35,10 @@ void TaskPanel::createView(QVBoxLayout* layout)
     m_view->setModel(m_model);
     m_view->setFitColumns([this] { m_view->resizeColumnsToContents(); });
     m_texts->keep([this] { m_view->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Tasks"))); });
-    connect(m_view, &HostTable::activated, this, [this](const QModelIndex& index) { openTask(index.row()); });
+    // Not activated(): some styles send that for a single click.
+    const auto open = [this](const QModelIndex& index) { openTask(index.row()); };
+    connect(m_view, &HostTable::doubleClicked, this, open);
+    connect(m_view, &HostTable::enterPressed, this, open);
     layout->addWidget(m_view);
 }
 

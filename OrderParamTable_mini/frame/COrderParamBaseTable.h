@@ -73,7 +73,9 @@ public:
     /// The table's state as a parameter string.
     virtual QString param() const = 0;
 
-    /// Stores what the cells hold; called before the table announces a change.
+    /// Stores what the cells hold; called before the table announces a change. It may delete the table. It must not
+    /// call what saves itself (getOrderSettings(), selectPrice(), setFixedPrice(), resetTriggerPriceSetting()): that
+    /// would never end.
     virtual void save() = 0;
 
 protected:
@@ -211,7 +213,9 @@ public:
     void setOperationType(ttservice::EOperationType operationType);
 
     /// Applies an order type: checks its button, shows or hides the cell area, the help button, cells and super price.
-    /// Sends 1244 in client modes 100 and 101.
+    /// Sends 1062 or 1063 for types from 4 on when the price type calls for another colour (and forgets the original
+    /// price then), and 1244 in client modes 100 and 101. Going back below 4 keeps the index of the parameter set until
+    /// a mode button is clicked: number and unit edits stay unheard and the price type 12 until then.
     void setOrderType(ttservice::EOrderType type);
 
     /// The chosen volume type; -1 without a volume-type cell.
@@ -407,13 +411,14 @@ private:
     /// @{
     bool send(int event, int a, int b, const QString& text, void* payload = nullptr);
     bool saveAndStayAlive();
+    bool reloadAndStayAlive();
     bool announceChange(const QString& text);
     bool recolourPriceDisplay();
     bool showParameterSet(ttservice::EOrderType type);
     bool enterPlainMode(ttservice::EOrderType type);
     bool enterParameterSetMode(ttservice::EOrderType type);
     bool reloadParameterSet();
-    bool announceMode(bool plain, const QString& text);
+    bool announceMode(const QString& text);
     bool announceWithoutOperation(const QString& text);
     /// @}
 
@@ -427,6 +432,7 @@ private:
     void limitCellsBy(int cellId);
     void updateHelp(bool plain);
     bool isParameterSetMode() const;
+    bool isInMode(ttservice::EOrderType type) const;
 
     // The members stand in the order that derived tables of clients rely on.
 protected:

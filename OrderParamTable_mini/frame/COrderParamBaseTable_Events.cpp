@@ -29,6 +29,11 @@ bool COrderParamBaseTable::isParameterSetMode() const
     return m_paramIndex >= 0;
 }
 
+bool COrderParamBaseTable::isInMode(EOrderType type) const
+{
+    return m_orderType == orderTypeInMode(m_id, type) && isParameterSetMode() == isParameterSetType(type);
+}
+
 bool COrderParamBaseTable::send(int event, int a, int b, const QString& text, void* payload)
 {
     const QPointer<COrderParamBaseTable> alive(this);
@@ -40,6 +45,13 @@ bool COrderParamBaseTable::saveAndStayAlive()
 {
     const QPointer<COrderParamBaseTable> alive(this);
     save();
+    return !alive.isNull();
+}
+
+bool COrderParamBaseTable::reloadAndStayAlive()
+{
+    const QPointer<COrderParamBaseTable> alive(this);
+    reloadParam();
     return !alive.isNull();
 }
 
@@ -103,14 +115,14 @@ bool COrderParamBaseTable::onButtonClicked(int buttonId, const QString& text)
     const bool plain = kind == ButtonKind::PlainMode;
     if (!(plain ? enterPlainMode(type) : enterParameterSetMode(type)) || !send(1064, m_id, m_orderType, text))
         return true;
-    if (!(plain || reloadParameterSet()) || !announceMode(plain, text))
+    if (!(plain || reloadParameterSet()) || !announceMode(text))
         return true;
     // A listener that has switched the mode meanwhile has settled what is shown.
-    if (m_orderType == orderTypeInMode(m_id, type))
+    if (isInMode(type))
         showCellArea(plain);
     if (!announceWithoutOperation(text))
         return true;
-    if (m_orderType == orderTypeInMode(m_id, type))
+    if (isInMode(type))
         updateHelp(plain);
     setAlgoBtnVisible();
     return true;
@@ -118,15 +130,14 @@ bool COrderParamBaseTable::onButtonClicked(int buttonId, const QString& text)
 
 bool COrderParamBaseTable::enterPlainMode(EOrderType type)
 {
-    const QPointer<COrderParamBaseTable> alive(this);
     m_paramIndex = -1;
     saveVisibleFlag(m_expand);
     if (m_ready && !saveAndStayAlive())
         return false;
+    m_paramIndex = -1; // save() may have chosen another mode
     m_orderType = type;
     resetPriceType();
-    reloadParam();
-    if (!alive)
+    if (!reloadAndStayAlive())
         return false;
     resetCellVisibilities();
     resetTableByPriceType();
@@ -150,18 +161,17 @@ bool COrderParamBaseTable::enterParameterSetMode(EOrderType type)
 
 bool COrderParamBaseTable::reloadParameterSet()
 {
-    const QPointer<COrderParamBaseTable> alive(this);
-    reloadParam();
-    if (!alive)
+    if (!reloadAndStayAlive())
         return false;
     updateCurrentPriceTypeName();
     return true;
 }
 
-bool COrderParamBaseTable::announceMode(bool plain, const QString& text)
+bool COrderParamBaseTable::announceMode(const QString& text)
 {
-    const EPriceType priceType = plain ? m_priceType : m_paramPriceType;
-    const bool isAnnounced = !plain || priceType != PRTP_NONE;
+    const bool isSet = isParameterSetMode();
+    const EPriceType priceType = isSet ? m_paramPriceType : m_priceType;
+    const bool isAnnounced = isSet || priceType != PRTP_NONE;
     if (isAnnounced && !send(1061, m_id, priceType, text))
         return false;
     return recolourPriceDisplay() && (!m_ready || send(129, m_id, 0, text));

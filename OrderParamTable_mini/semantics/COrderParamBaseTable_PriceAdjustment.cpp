@@ -42,7 +42,10 @@ void COrderParamBaseTable::setPriceImpl(double price, QString text)
 void COrderParamBaseTable::resetShowFixPrice()
 {
     const PriceDisplayEvent display = priceDisplayEvent(m_priceType);
-    if (display.event != 0 && send(display.event, m_id, 1, QString::fromLatin1(display.colourKey)))
+    if (display.event == 0 || !send(display.event, m_id, 1, QString::fromLatin1(display.colourKey)))
+        return;
+    // A listener that has chosen another price type meanwhile may have set its price.
+    if (priceDisplayEvent(m_priceType).event != 0)
         m_originalPrice = kNoPrice;
 }
 

@@ -14,14 +14,21 @@
 #include <OrderParamTable_mini/credit/CCreditParamTable.h>
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 #include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
+#include <OrderParamTable_mini/tables/CHpfBasketTaskParamWidget.h>
+
+#include <WQ/CMultiParamsTable.h>
 
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QSettings>
+#include <QTableView>
 #include <QtTest>
+
+#include <algorithm>
 
 using namespace workbench;
 
@@ -39,6 +46,10 @@ private Q_SLOTS:
     void choicesAreBackAfterARestart();
     void aBrokenStateFileIsNoObstacle();
     void aTaskOpensItsDialog();
+    void aDoubleClickOnATaskOpensItsDialog();
+    void aBasketOpensOnTheSelectedTasks();
+    void twoHundredTasksOpenedAndClosedLeaveNothing();
+    void anAccountIsSelectedInTheCreditTable();
     void itIsUsableAtASmallSize();
     void noTwoPartsShareAnAccessKey_data();
     void noTwoPartsShareAnAccessKey();
@@ -177,6 +188,74 @@ void tst_MainWindow::aTaskOpensItsDialog()
     QTRY_VERIFY(!dialog);
     tasks->openTask(99);
     QVERIFY(tasks->findChildren<TC::CBaseTaskParamWidget*>().isEmpty());
+}
+
+void tst_MainWindow::aDoubleClickOnATaskOpensItsDialog()
+{
+    HostData data;
+    data.tasks.resize(2);
+    MainWindow window(data);
+    window.show();
+    auto* tasks = window.findChild<TaskPanel*>();
+    auto* view = tasks->findChild<QTableView*>();
+    tasks->parentWidget()->raise();
+    QTRY_VERIFY(view->isVisible());
+    const QPoint place = view->visualRect(view->model()->index(1, 1)).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QVERIFY(tasks->findChildren<TC::CBaseTaskParamWidget*>().isEmpty());
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(tasks->findChildren<TC::CBaseTaskParamWidget*>().size(), 1);
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(tasks->findChildren<TC::CBaseTaskParamWidget*>().size(), 2);
+}
+
+void tst_MainWindow::aBasketOpensOnTheSelectedTasks()
+{
+    HostData data;
+    data.tasks.resize(3);
+    MainWindow window(data);
+    auto* tasks = window.findChild<TaskPanel*>();
+    tasks->openBasket();
+    const auto baskets = tasks->findChildren<TC::CHpfBasketTaskParamWidget*>();
+    QCOMPARE(baskets.size(), 1);
+    const QPointer<QWidget> basket = baskets.first();
+    basket->close();
+    QTRY_VERIFY(!basket);
+}
+
+void tst_MainWindow::twoHundredTasksOpenedAndClosedLeaveNothing()
+{
+    HostData data;
+    data.tasks.resize(1);
+    data.tasks.front().account.reset(new ttservice::CAccountInfoV2{ttservice::BROKER_TYPE_STOCK, "1", "n"});
+    data.tasks.front().orderType = ttservice::ORDER_TYPE_ALGORITHM;
+    MainWindow window(data);
+    auto* tasks = window.findChild<TaskPanel*>();
+    const int before = QApplication::allWidgets().size();
+    for (int i = 0; i < 200; ++i) {
+        tasks->openTask(0);
+        const auto dialogs = tasks->findChildren<TC::CBaseTaskParamWidget*>();
+        QCOMPARE(dialogs.size(), 1);
+        dialogs.first()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    QTRY_COMPARE(QApplication::allWidgets().size(), before);
+}
+
+void tst_MainWindow::anAccountIsSelectedInTheCreditTable()
+{
+    reference::addAccount("a", {ttservice::BROKER_TYPE_CREDIT, "88001234", "n"});
+    reference::addAccount("b", {ttservice::BROKER_TYPE_CREDIT, "88005678", "n"});
+    MainWindow window({});
+    auto* cells = window.credit()->table()->findChild<WQ::CMultiParamsTable*>();
+    cells->setComboData(726, QStringLiteral("88005678"));
+    const auto buttons = window.credit()->findChildren<QPushButton*>();
+    const auto select = std::find_if(buttons.begin(), buttons.end(), [](const QPushButton* button) {
+        return button->text() == QStringLiteral("Select");
+    });
+    QVERIFY(select != buttons.end());
+    (*select)->click();
+    QCOMPARE(window.credit()->table()->getSelectAccount(), QStringLiteral("88001234"));
 }
 
 void tst_MainWindow::itIsUsableAtASmallSize()

@@ -727,5 +727,9 @@ A host for every table and dialog of the library.</source>
         <source>Price type (&amp;k)</source>
         <translation>报价方式(&amp;K)</translation>
     </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
 </context>
 </TS>

@@ -108,7 +108,7 @@ enum ENVBrokerType : int {
     BROKER_TYPE_OPTION = 6,         ///< options
     BROKER_TYPE_HK_7 = 7,           ///< Hong Kong, priced in Hong Kong dollars
     BROKER_TYPE_8 = 8,              ///< treated like stock
-    BROKER_TYPE_10 = 10,            ///< treated like stock, with the short book lists of the point-priced
+    BROKER_TYPE_10 = 10,            ///< shares, with the price types of 1001 and 1002 and without base volume
     BROKER_TYPE_HK_11 = 11,         ///< Hong Kong, priced in Hong Kong dollars
     BROKER_TYPE_POINTS_1001 = 1001, ///< priced in points
     BROKER_TYPE_POINTS_1002 = 1002, ///< priced in points
