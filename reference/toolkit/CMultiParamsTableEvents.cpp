@@ -1,5 +1,6 @@
 #include <WQ/CMultiParamsTable.h>
 
+#include "reference/toolkit/AccessibleTable.h"
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 #include "reference/toolkit/Painting.h"
 #include "reference/toolkit/editors/CellInteraction.h"
@@ -31,6 +32,7 @@ CMultiParamsTable::CMultiParamsTable(QWidget* parent, bool fontScale)
     : CEventWidgetT<QTableView>(parent)
     , d(std::make_unique<CMultiParamsTablePrivate>(this, fontScale))
 {
+    makeTablesAccessible();
     d->setUpView();
 }
 
@@ -140,7 +142,13 @@ void CMultiParamsTable::hideEvent(QHideEvent* event)
 
 void CMultiParamsTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    CEventWidgetT<QTableView>::currentChanged(current, previous);
+    // Not QTableView's: it would announce the focus by the numbers of Qt's own accessible table.
+    QAbstractItemView::currentChanged(current, previous);
+    if (QAccessible::isActive() && current.isValid() && hasFocus()) {
+        QAccessibleEvent focus(this, QAccessible::Focus);
+        focus.setChild(accessibleChild(current.row(), CellModel::ValueColumn));
+        QAccessible::updateAccessibility(&focus);
+    }
     viewport()->update(d->rowRect(previous.row()));
     viewport()->update(d->rowRect(current.row()));
     if (CellInteraction* interaction = d->interactionIfAny())

@@ -1,12 +1,12 @@
 #include "reference/toolkit/cells/CellPainter.h"
 
+#include "reference/toolkit/Painting.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/cells/CellItem.h"
 #include "reference/toolkit/cells/DeviceGrid.h"
 #include "reference/toolkit/cells/TextCache.h"
 
-#include <QPaintDevice>
 #include <QPainter>
 
 namespace WQ {
@@ -69,7 +69,7 @@ QRect centred(const QRect& area, int size)
 
 void drawImage(QPainter& painter, const QString& key, const QColor& tint, const QRect& rect)
 {
-    painter.drawPixmap(rect.topLeft(), resources::image(key, tint, rect.size(), painter.device()->devicePixelRatioF()));
+    painting::drawImage(painter, rect, key, tint, rect.width());
 }
 
 class TextPen

@@ -169,8 +169,10 @@ bool CellInteraction::keyPress(QKeyEvent* event)
         setFooterFocus(true);
         return true;
     }
-    CellItem* cell = m_table.currentCell();
-    return cell && rowKey(*event, *cell);
+    if (CellItem* cell = m_table.currentCell())
+        return rowKey(*event, *cell);
+    // Without a row Enter still presses no button of the window around.
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
 bool CellInteraction::rowKey(QKeyEvent& event, CellItem& cell)

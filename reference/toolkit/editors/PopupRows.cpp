@@ -110,14 +110,17 @@ void PopupRows::resizeToContent()
     const QRect room = on ? on->availableGeometry() : m_anchor;
     const int rowHeight = size(keys::kPopupRowHeight);
     const int others = 2 * kFrame + footerHeight();
-    const int fitting = std::max(1, (room.height() - others) / rowHeight);
+    // Never over the row it belongs to: where neither side has room for all, the larger one scrolls.
+    const int below = room.bottom() - m_anchor.bottom();
+    const int above = m_anchor.top() - room.top();
+    const int wanted = std::clamp(rowCount(), 1, kMostRows) * rowHeight + others;
+    const bool isAbove = wanted > below && above > below;
+    const int fitting = std::max(1, ((isAbove ? above : below) - others) / rowHeight);
     const int rows = std::clamp(rowCount(), 1, std::min(kMostRows, fitting));
     const int height = rows * rowHeight + others;
     const int scroll = rowCount() > rows ? size(keys::kScrollBar) : 0;
     const int width = std::min(std::max(contentWidth() + scroll + 2 * kFrame, m_anchor.width()), room.width());
-    const bool isAbove = m_anchor.bottom() + height > room.bottom() && m_anchor.top() - height >= room.top();
-    const int top = isAbove ? m_anchor.top() - height
-                            : std::max(room.top(), std::min(m_anchor.bottom() + 1, room.bottom() + 1 - height));
+    const int top = isAbove ? m_anchor.top() - height : m_anchor.bottom() + 1;
     const int left = std::max(room.left(), std::min(m_anchor.right() + 1 - width, room.right() + 1 - width));
     setGeometry(left, top, width, height);
 }

@@ -1,5 +1,8 @@
 #include "EditorPanel.h"
 
+#include <QDialog>
+#include <QSignalSpy>
+
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -12,6 +15,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void enterWithoutARowPressesNoButton();
     void tabGoesThroughTheEditableValuesAndLeaves();
     void backtabComesInAtTheEndAndLeavesAtTheStart();
     void tabCommitsWhatWasTyped();
@@ -315,6 +319,22 @@ void tst_CellInteraction::aNewThemeReachesTheOpenEditor()
     QVERIFY(WQ::resources::setTheme(QStringLiteral("dark")));
     QVERIFY2(light.contains(QStringLiteral("#18212d")), qPrintable(light));
     QCOMPARE(m_panel->line()->styleSheet(), dark);
+}
+
+void tst_CellInteraction::enterWithoutARowPressesNoButton()
+{
+    QDialog dialog;
+    auto* const table = new WQ::CMultiParamsTable(&dialog, true);
+    auto* const button = new QPushButton(&dialog);
+    button->setDefault(true);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QSignalSpy pressed(button, &QPushButton::clicked);
+    QTest::keyClick(table, Qt::Key_Return);
+    QTest::keyClick(table, Qt::Key_Enter);
+    QCOMPARE(pressed.count(), 0);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+    QCOMPARE(pressed.count(), 1);
 }
 
 QTEST_MAIN(tst_CellInteraction)
