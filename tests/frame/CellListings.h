@@ -1,7 +1,7 @@
 #pragma once
 
-/// Every cell of a table of identity 5, trader type 1, automatic order book allowed, with the modules of the remark and of
-/// random volumes on: one listing a broker type, one line a cell, in the order in which the cells stand.
+/// Every cell of a table of identity 5, trader type 1, automatic order book allowed, with the modules of the remark and
+/// of random volumes on: one listing a broker type, one line a cell, in the order in which the cells stand.
 struct CellListing
 {
     int brokerType;

@@ -33,11 +33,11 @@ enum EWqTimeRangeType : int {
 /// One selectable unit of a unit cell, with the limits that hold while it is chosen.
 struct CParamCellUnitInfo
 {
-    QString text;       ///< the unit as shown; it also names the unit in calls
-    int type = 0;       ///< value type as a Qt meta-type number: 2 int, 6 double
-    QVariant min;       ///< smallest value, in this unit
-    QVariant max;       ///< largest value, in this unit
-    QVariant step;      ///< step of the value; invalid when none was given
+    QString text;  ///< the unit as shown; it also names the unit in calls
+    int type = 0;  ///< value type as a Qt meta-type number: 2 int, 6 double
+    QVariant min;  ///< smallest value, in this unit
+    QVariant max;  ///< largest value, in this unit
+    QVariant step; ///< step of the value; invalid when none was given
 };
 
 /// The four colour keys of a push button.
