@@ -35,7 +35,7 @@ int panelHeight()
 /// The panel at its own height when it scrolls, as high as all of its rows otherwise.
 void fitBench(TableBench& bench, PanelState state)
 {
-    const TC::COrderParamBaseTable& table = *bench.table();
+    TC::COrderParamBaseTable& table = *bench.table();
     const int strip = WQ::resources::size(WQ::keys::kStripHeight, 1.0);
     const int needed = state == PanelState::Scrolled ? 0 : strip + table.getMultiParamsTable()->realHeight();
     bench.resize(table.width(), qMax(panelHeight(), needed));

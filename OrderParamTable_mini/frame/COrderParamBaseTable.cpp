@@ -22,7 +22,7 @@ EOpParamWidgetID COrderParamBaseTable::getId() const
     return m_id;
 }
 
-WQ::CMultiParamsTable* COrderParamBaseTable::getMultiParamsTable() const
+WQ::CMultiParamsTable* COrderParamBaseTable::getMultiParamsTable()
 {
     return m_table;
 }
@@ -63,12 +63,12 @@ bool COrderParamBaseTable::isCloseSetting() const
     return kCloseSettingTables.contains(m_id);
 }
 
-bool COrderParamBaseTable::isComposeFuture() const
+bool COrderParamBaseTable::isComposeFuture()
 {
     return kComposeFutureTables.contains(m_id);
 }
 
-bool COrderParamBaseTable::isComposeStock() const
+bool COrderParamBaseTable::isComposeStock()
 {
     return kComposeStockTables.contains(m_id);
 }
@@ -78,7 +78,7 @@ bool COrderParamBaseTable::isTrdParamTable() const
     return isTradeParameterType(m_orderType);
 }
 
-bool COrderParamBaseTable::isAuthorityLegal(std::string) const
+bool COrderParamBaseTable::isAuthorityLegal(std::string)
 {
     return true;
 }

@@ -90,7 +90,7 @@ public:
     EOpParamWidgetID getId() const;
 
     /// The cell table; null only when the toolkit could not make one.
-    WQ::CMultiParamsTable* getMultiParamsTable() const;
+    WQ::CMultiParamsTable* getMultiParamsTable();
 
     ttservice::EOrderType orderType() const;
     ttservice::EOperationType getOperationType() const;
@@ -127,7 +127,7 @@ public:
     /// the rules allow. Sends no event.
     void setExpandItemsHidden(bool hidden);
 
-    bool isExpand() const;
+    bool isExpand();
 
     /// While collapsed, applies the user's visible-cell word of the current order type; order types outside 0 to 3 and
     /// an empty word show no choice.
@@ -225,7 +225,7 @@ public:
     bool isRandVolume() const;
 
     /// Whether the order type is an algorithm with a help page.
-    bool bShowHelp(const ttservice::EOrderType& type) const;
+    bool bShowHelp(const ttservice::EOrderType& type);
 
     /// @}
     /// @name Price adjustment
@@ -339,11 +339,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
     void createUi();
-    bool isComposeFuture() const;
-    bool isComposeStock() const;
+    bool isComposeFuture();
+    bool isComposeStock();
 
     /// Whether a module may be used: always, this table's own checks ask the module control service.
-    bool isAuthorityLegal(std::string module) const;
+    bool isAuthorityLegal(std::string module);
 
     /// Recomputes which cells are shown, and the strip; tables 10 and 35 are set to order type 1 here.
     void resetCellVisibilities();
@@ -353,8 +353,8 @@ protected:
 
     void resetBtnType();
     void setAlgoBtnVisible();
-    bool showAlgo() const;
-    bool showAlgoHelpButton() const;
+    bool showAlgo();
+    bool showAlgoHelpButton();
 
     /// Appends the price types that @p flags and the market family select; with @p apply loads the lists into the cell.
     /// @p current is ignored.
@@ -380,7 +380,7 @@ protected:
 
     /// Keeps the super price within twice the fluctuation range when both have the same unit.
     void fixSuperPrice();
-    double changeSuperPrice(double value) const;
+    double changeSuperPrice(double value);
     double fixPriceInRange(double value) const;
     void resetTableByPriceType();
 

@@ -45,12 +45,12 @@ void COrderParamBaseTable::setAlgoBtnVisible()
         send(1244, m_orderType, 0, QString::fromLatin1(""));
 }
 
-bool COrderParamBaseTable::showAlgo() const
+bool COrderParamBaseTable::showAlgo()
 {
     return showsAlgorithms(m_id, m_brokerType);
 }
 
-bool COrderParamBaseTable::showAlgoHelpButton() const
+bool COrderParamBaseTable::showAlgoHelpButton()
 {
     return followsHelpPage(m_id);
 }

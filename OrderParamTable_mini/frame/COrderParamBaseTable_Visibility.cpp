@@ -98,7 +98,7 @@ void COrderParamBaseTable::hideAlgorithmCells(bool hidden)
     }
 }
 
-bool COrderParamBaseTable::isExpand() const
+bool COrderParamBaseTable::isExpand()
 {
     return m_expand;
 }

@@ -84,7 +84,7 @@ bool COrderParamBaseTable::isRandVolume() const
     return mayRandomiseVolume(state(), isModuleOn);
 }
 
-bool COrderParamBaseTable::bShowHelp(const EOrderType& type) const
+bool COrderParamBaseTable::bShowHelp(const EOrderType& type)
 {
     return hasHelpPage(type);
 }

@@ -86,7 +86,7 @@ void COrderParamBaseTable::fixSuperPrice()
         m_table->setItemDouble(OCF_SuperPrice, limited);
 }
 
-double COrderParamBaseTable::changeSuperPrice(double value) const
+double COrderParamBaseTable::changeSuperPrice(double value)
 {
     return allowedSuperPrice(value, m_flags);
 }

@@ -20,7 +20,7 @@ QString text(const char* utf8)
 
 bool hasCell(const BaseTableProbe& table, int id)
 {
-    return table.getMultiParamsTable()->getItem(id) != nullptr;
+    return table.m_table->getItem(id) != nullptr;
 }
 
 QString entries(const TableSetup& setup, int id)

@@ -81,7 +81,7 @@ inline QString constructionText(int identity, int broker, int trader, bool book)
 }
 
 /// A table as a person sees it: which cells it has, hidden or shown, and what they hold.
-inline QStringList tableText(const TC::COrderParamBaseTable& table)
+inline QStringList tableText(TC::COrderParamBaseTable& table)
 {
     QStringList text = support::cellRows(*table.getMultiParamsTable());
     text += support::idText(support::allItems(*table.getMultiParamsTable()));

@@ -112,7 +112,7 @@ void tst_CodeAndStopLossTables::theCodeTableReordersItsArguments()
 
 void tst_CodeAndStopLossTables::theCodeTableNeverOffersTheAutomaticBookPrice()
 {
-    const CodeTableProbe table(5, 2, true, 2, true);
+    CodeTableProbe table(5, 2, true, 2, true);
     QVERIFY(!table.m_lastFlag);
     WQ::CMultiParamsTable* const cells = table.getMultiParamsTable();
     for (const int value : kInitialList) {
