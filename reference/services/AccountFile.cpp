@@ -1,5 +1,6 @@
 #include "reference/services/AccountFile.h"
 
+#include "reference/services/FileReport.h"
 #include "reference/services/JsonRecords.h"
 
 #include <boost/make_shared.hpp>
@@ -22,7 +23,7 @@ void readAccount(JsonRecords& file, int record, TC::AccountMap& accounts)
         fields.fail(QStringLiteral("key"), QStringLiteral("an account needs a \"key\""));
     else if (!accounts.emplace(key, account).second)
         fields.fail(QStringLiteral("key"),
-                    QStringLiteral("a second account with the key \"%1\"").arg(QString::fromStdString(key)));
+                    QStringLiteral("a second account with the key %1").arg(quoted(QString::fromStdString(key))));
 }
 
 } // namespace

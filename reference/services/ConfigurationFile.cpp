@@ -32,7 +32,7 @@ QString takeModules(const QSettings& settings, std::set<std::string>& modules)
         if (name.isEmpty())
             continue;
         if (slash <= 0 || slash == name.size() - 1 || name.indexOf(QLatin1Char('/'), slash + 1) >= 0)
-            return QStringLiteral("\"%1\" is not a module of the form group/module").arg(name);
+            return QStringLiteral("%1 is not a module of the form group/module").arg(quoted(name));
         modules.insert(name.toStdString());
     }
     return {};
@@ -44,7 +44,7 @@ LoadReport take(const QString& path, const QSettings& settings, const IniLines& 
     Configuration read;
     const QString modeProblem = takeMode(settings, read.clientMode);
     const QString modulesProblem = takeModules(settings, read.modules);
-    const QStringList keys = settings.allKeys();
+    const QStringList keys = lines.keys();
     if (!modeProblem.isEmpty())
         report.error = placed(path, lines.lineOf(kModeKey), modeProblem);
     else if (!modulesProblem.isEmpty())
@@ -54,7 +54,7 @@ LoadReport take(const QString& path, const QSettings& settings, const IniLines& 
     for (const QString& key : keys) {
         if (key != kModeKey && key != kModulesKey)
             report.notes.append(
-                placed(path, lines.lineOf(key), QStringLiteral("unknown key \"%1\" is ignored").arg(key)));
+                placed(path, lines.lineOf(key), QStringLiteral("unknown key %1 is ignored").arg(quoted(key))));
     }
     if (report.isGood())
         configuration = read;

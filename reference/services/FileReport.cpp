@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 
@@ -12,7 +13,14 @@ namespace reference {
 namespace {
 
 constexpr int kMostNotesSaid = 5;
-constexpr qint64 kLargestFile = 256 * 1024 * 1024;
+constexpr int kLongestText = 80;
+
+/// By path.
+QHash<QString, QSet<QString>>& errorsSaid()
+{
+    static QHash<QString, QSet<QString>> errors;
+    return errors;
+}
 
 void sayNotes(const QStringList& notes)
 {
@@ -26,17 +34,21 @@ void sayNotes(const QStringList& notes)
 
 void sayReport(const QString& path, const LoadReport& report)
 {
-    static QHash<QString, QString> lastErrors;
     sayNotes(report.notes);
     if (report.isGood()) {
-        lastErrors.remove(path);
+        errorsSaid().remove(path);
         return;
     }
-    QString& lastError = lastErrors[path];
-    if (lastError == report.error)
+    QSet<QString>& said = errorsSaid()[path];
+    if (said.contains(report.error))
         return;
-    lastError = report.error;
+    said.insert(report.error);
     qWarning("%s", qUtf8Printable(report.error));
+}
+
+void forgetReports()
+{
+    errorsSaid().clear();
 }
 
 QString placed(const QString& path, int line, const QString& what)
@@ -46,13 +58,23 @@ QString placed(const QString& path, int line, const QString& what)
                     : QStringLiteral("%1: %2").arg(file, what);
 }
 
+QString quoted(const QString& text)
+{
+    QString shown = text.left(kLongestText);
+    for (QChar& character : shown) {
+        if (!character.isPrint())
+            character = QChar::ReplacementCharacter;
+    }
+    return QLatin1Char('"') + shown + QLatin1String(text.size() > kLongestText ? "...\"" : "\"");
+}
+
 int lineAt(const QByteArray& bytes, int offset)
 {
     const auto end = bytes.begin() + std::clamp(offset, 0, bytes.size());
     return 1 + static_cast<int>(std::count(bytes.begin(), end, '\n'));
 }
 
-QByteArray readWhole(const QString& path, LoadReport& report)
+QByteArray readWhole(const QString& path, LoadReport& report, qint64 largest)
 {
     // A folder opens like a file on some systems, a pipe waits for its writer, a device never ends.
     const QFileInfo info(path);
@@ -60,7 +82,7 @@ QByteArray readWhole(const QString& path, LoadReport& report)
         report.error = placed(path, 0, QStringLiteral("is no file"));
         return {};
     }
-    if (info.size() > kLargestFile) {
+    if (info.size() > largest) {
         report.error = placed(path, 0, QStringLiteral("is too large"));
         return {};
     }

@@ -6,16 +6,25 @@
 
 namespace reference {
 
-/// Writes a file's report to the log: an error once until the file is good again, and its notes.
+/// The largest file that is read, in bytes.
+constexpr qint64 kLargestFile = 256 * 1024 * 1024;
+
+/// Writes a file's report to the log: each error once until the file is good again, and its notes.
 void sayReport(const QString& path, const LoadReport& report);
+
+/// Lets every error be said again.
+void forgetReports();
 
 /// "file:line: what"; without the line when it is 0.
 QString placed(const QString& path, int line, const QString& what);
+
+/// A text of a file as a message shows it: in quotes, on one line, and shortened.
+QString quoted(const QString& text);
 
 /// The line of a byte offset, from 1.
 int lineAt(const QByteArray& bytes, int offset);
 
 /// The bytes of a whole file; on failure the error of @p report says why.
-QByteArray readWhole(const QString& path, LoadReport& report);
+QByteArray readWhole(const QString& path, LoadReport& report, qint64 largest = kLargestFile);
 
 } // namespace reference

@@ -15,8 +15,12 @@ class FileWatch : public QObject
 public:
     FileWatch(const QString& path, std::function<void()> changed, QObject* parent);
 
+    /// Calls back once more after a while, unless a change comes first: for what looks half-written.
+    void lookAgain();
+
 private:
     void watch();
+    void addFolder(const QString& folder);
 
     QString m_path;
     std::function<void()> m_changed;

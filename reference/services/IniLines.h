@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 namespace reference {
 
@@ -30,7 +31,13 @@ public:
         return m_content;
     }
 
-    /// The line of "section/key" as QSettings names it; 0 when there is none.
+    /// The keys as "section/key", in their order.
+    QStringList keys() const
+    {
+        return m_keys;
+    }
+
+    /// The line of "section/key"; 0 when there is none.
     int lineOf(const QString& key) const
     {
         return m_lines.value(key);
@@ -40,13 +47,16 @@ private:
     void takeLine(const QByteArray& text, int line);
     QString takeSection(const QByteArray& text);
     QString takeEntry(const QByteArray& text, int line);
+    QString takeValue(const QByteArray& text, int begin);
 
     QByteArray m_content;
+    QStringList m_keys;
     QHash<QString, int> m_lines;
     QString m_section;
     QString m_problem;
     int m_problemLine = 0;
     bool m_isContinued = false;
+    bool m_isQuoteOpen = false;
 };
 
 } // namespace reference

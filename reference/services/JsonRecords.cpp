@@ -21,6 +21,8 @@ JsonRecords::JsonRecords(const QString& path)
         m_report.error = placed(path, lineAt(m_bytes, problem.offset), problem.errorString());
     else if (!document.isArray())
         m_report.error = placed(path, 1, QStringLiteral("not a list of records"));
+    else if (const int second = secondNameOffset(m_bytes); second >= 0)
+        m_report.error = placed(path, lineAt(m_bytes, second), secondNameProblem(m_bytes, second));
     else
         m_records = document.array();
 }
@@ -33,6 +35,10 @@ void JsonRecords::fail(int record, const QString& field, const QString& what)
 
 void JsonRecords::note(int record, const QString& field, const QString& what)
 {
+    // What is noted of one record holds for the next 100,000 as well.
+    if (m_noted.contains(what))
+        return;
+    m_noted.insert(what);
     // Each place is looked up by a walk over the file: 100,000 of them would take for ever, and nobody reads so many.
     constexpr int kMostPlaces = 20;
     const bool isWorthPlace = m_report.notes.size() < kMostPlaces;
@@ -100,7 +106,7 @@ void JsonFields::noteUnknown()
 {
     const QStringList fields = m_left.keys();
     for (const QString& field : fields)
-        note(field, QStringLiteral("unknown field \"%1\" is ignored").arg(field));
+        note(field, QStringLiteral("unknown field %1 is ignored").arg(quoted(field)));
 }
 
 bool isInt(const QJsonValue& value)

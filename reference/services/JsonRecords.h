@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QSet>
 
 #include <string>
 
@@ -29,6 +30,7 @@ public:
 
     /// Makes "file:line: what" the error, unless there is one; an empty or unknown field stands for the whole record.
     void fail(int record, const QString& field, const QString& what);
+    /// Notes it with its first place, whatever the number of records that it is said of.
     void note(int record, const QString& field, const QString& what);
 
 private:
@@ -38,6 +40,7 @@ private:
     QByteArray m_bytes;
     QJsonArray m_records;
     LoadReport m_report;
+    QSet<QString> m_noted;
 };
 
 /// Takes the fields of one record; a missing field leaves its target, one of another type fails.

@@ -21,7 +21,8 @@ namespace {
 struct ConfigurationSource
 {
     QString path;
-    QByteArray bytes; ///< as last read: most calls of the watch are about other files of the folder
+    std::optional<QByteArray> bytes;      ///< as last read: most calls of the watch are about other files of the folder
+    std::optional<QByteArray> unfinished; ///< what may still be written
     QPointer<FileWatch> watch;
 };
 
@@ -42,14 +43,33 @@ LoadReport apply(const QByteArray& bytes)
     return report;
 }
 
+// A writer that is not through leaves a file without its last line end: empty, or with half a value. Such a file is
+// taken when it has stayed so.
+bool isStillWritten(const QByteArray& bytes)
+{
+    const bool isNew = source().unfinished != bytes;
+    source().unfinished = bytes;
+    return isNew && !bytes.endsWith('\n');
+}
+
 void readAgain()
 {
     LoadReport report;
     const QByteArray bytes = readWhole(source().path, report);
-    if (report.isGood() && bytes == source().bytes)
+    if (!report.isGood()) {
+        source().bytes.reset();
+        source().unfinished.reset();
+    } else if (source().bytes == bytes) {
+        source().unfinished.reset();
         return;
-    source().bytes = bytes;
-    sayReport(source().path, report.isGood() ? apply(bytes) : report);
+    } else if (isStillWritten(bytes)) {
+        source().watch->lookAgain();
+        return;
+    } else {
+        source().bytes = bytes;
+        report = apply(bytes);
+    }
+    sayReport(source().path, report);
 }
 
 } // namespace
@@ -62,6 +82,7 @@ void resetServices()
     setModules({});
     freezeClock(std::nullopt);
     clearAccounts();
+    forgetReports();
 }
 
 void setClientMode(int mode)
@@ -133,10 +154,13 @@ LoadReport loadConfiguration(const QString& path)
 {
     LoadReport report;
     delete source().watch;
+    source() = {};
     source().path = path;
-    source().bytes = readWhole(path, report);
-    if (report.isGood())
-        report = apply(source().bytes);
+    const QByteArray bytes = readWhole(path, report);
+    if (report.isGood()) {
+        source().bytes = bytes;
+        report = apply(bytes);
+    }
     if (!path.isEmpty() && QCoreApplication::instance())
         source().watch = new FileWatch(path, readAgain, QCoreApplication::instance());
     sayReport(path, report);

@@ -17,7 +17,8 @@
 /// thread only.
 namespace reference {
 
-/// As after the start: client mode 0, all modules off, system clock, no accounts, no configuration file watched.
+/// As after the start: client mode 0, all modules off, system clock, no accounts, no configuration file watched,
+/// no error said yet.
 WQ_EXPORT void resetServices();
 
 WQ_EXPORT void setClientMode(int mode);
@@ -46,7 +47,8 @@ WQ_EXPORT QString dataFolder();
 // A load call takes the whole file or nothing: after an error what was in force stays so. Errors are also written to
 // the log, the same one of a file once until the file has been good again, and notes once a load.
 
-/// Client mode and modules from an INI file, read again whenever it changes or is replaced, until resetServices():
+/// Client mode and modules from an INI file, read again whenever it changes or is replaced, until resetServices(); a
+/// changed file without its last line end counts as half-written until it has stayed so for half a second:
 ///
 ///     [client]
 ///     mode=100

@@ -1,9 +1,11 @@
 #include "reference/services/TaskFile.h"
 
+#include "reference/services/FileReport.h"
 #include "reference/services/JsonRecords.h"
 
 #include <TC/DataCenter.h>
-#include <WQ/Formatting.h>
+
+#include <QDateTime>
 
 namespace reference {
 
@@ -21,17 +23,16 @@ void takeAccount(JsonFields& fields, boost::shared_ptr<ttservice::CAccountInfoV2
     }
     account = TC::DataCenter::instance()->getAccountInfo(key.toString().toStdString());
     if (!account)
-        fields.note(field, QStringLiteral("no account \"%1\", the task has none").arg(key.toString()));
+        fields.note(field, QStringLiteral("no account %1, the task has none").arg(quoted(key.toString())));
 }
 
 void takeTime(JsonFields& fields, const QString& field, int& seconds)
 {
     const QJsonValue value = fields.takeAny(field);
     const QDateTime moment = QDateTime::fromString(value.toString(), Qt::ISODate);
-    if (isInt(value))
-        seconds = static_cast<int>(value.toDouble());
-    else if (moment.isValid())
-        seconds = WQ::qDateTimeToSecond(moment);
+    const QJsonValue number = moment.isValid() ? QJsonValue(moment.toSecsSinceEpoch()) : value;
+    if (isInt(number))
+        seconds = static_cast<int>(number.toDouble());
     else if (!value.isUndefined())
         fields.fail(field, QStringLiteral("\"%1\" is neither seconds since the epoch nor an ISO time").arg(field));
 }
