@@ -45,7 +45,7 @@ WQ_EXPORT QStringList themes();
 WQ_EXPORT QString theme();
 
 /// Takes the theme and tells every registered handler; false, and nothing changes, when there is no theme of that name
-/// or its file is wrong (reported once a file, with the line).
+/// or its file is wrong (reported with the line, each error once until the file is good).
 WQ_EXPORT bool setTheme(const QString& name);
 
 /// Adds the theme files of a folder ("NAME.json") to those compiled in, which keep precedence.

@@ -1,11 +1,12 @@
 #include "reference/toolkit/ThemeReader.h"
 
+#include "reference/services/FileReport.h"
+#include "reference/services/JsonLines.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-
-#include <algorithm>
 
 namespace WQ {
 
@@ -13,20 +14,14 @@ namespace {
 
 constexpr double kLargestSize = 4096;
 
-int lineAt(const QByteArray& file, int offset)
-{
-    const int end = std::clamp(offset, 0, file.size());
-    return 1 + static_cast<int>(std::count(file.cbegin(), file.cbegin() + end, '\n'));
-}
-
 QString said(int line, const QString& what)
 {
     return QStringLiteral("%1: %2").arg(line).arg(what);
 }
 
-QString saidOfKey(const QByteArray& file, const QString& key, const QString& what)
+QString saidOfKey(const QByteArray& file, const QString& key, const QString& section, const QString& what)
 {
-    return said(lineOfKey(file, key), QStringLiteral("\"%1\" %2").arg(key.left(80), what));
+    return said(lineOfKey(file, key, section), reference::quoted(key) + QLatin1Char(' ') + what);
 }
 
 std::optional<QJsonObject> rootOf(const QByteArray& file, QString& error)
@@ -34,11 +29,15 @@ std::optional<QJsonObject> rootOf(const QByteArray& file, QString& error)
     QJsonParseError parsed;
     const QJsonDocument document = QJsonDocument::fromJson(file, &parsed);
     if (parsed.error != QJsonParseError::NoError) {
-        error = said(lineAt(file, parsed.offset), parsed.errorString());
+        error = said(reference::lineAt(file, parsed.offset), parsed.errorString());
         return std::nullopt;
     }
     if (!document.isObject()) {
         error = said(1, QStringLiteral("is not a JSON object"));
+        return std::nullopt;
+    }
+    if (const int second = reference::secondNameOffset(file); second >= 0) {
+        error = said(reference::lineAt(file, second), reference::secondNameProblem(file, second));
         return std::nullopt;
     }
     return document.object();
@@ -50,7 +49,7 @@ std::optional<QJsonObject> sectionOf(const QByteArray& file, const QJsonObject& 
     const QJsonValue section = root.value(name);
     if (section.isObject())
         return section.toObject();
-    error = saidOfKey(file, name, QStringLiteral("is not there as an object"));
+    error = saidOfKey(file, name, QString(), QStringLiteral("is not there as an object"));
     return std::nullopt;
 }
 
@@ -80,8 +79,9 @@ std::optional<FontRole> toFontRole(const QJsonValue& value)
 
 std::optional<QString> toImageName(const QJsonValue& value)
 {
+    static const QRegularExpression form(QStringLiteral("\\A[a-z0-9_-]+\\z"));
     const QString name = value.toString();
-    return name.isEmpty() ? std::nullopt : std::make_optional(name);
+    return form.match(name).hasMatch() ? std::make_optional(name) : std::nullopt;
 }
 
 template <class Value, class Convert>
@@ -94,7 +94,7 @@ bool readSection(const QByteArray& file, const QJsonObject& root, const QString&
     for (auto entry = section->constBegin(); entry != section->constEnd(); ++entry) {
         const auto value = convert(entry.value());
         if (!value) {
-            error = saidOfKey(file, entry.key(), QStringLiteral("is wrong in \"%1\"").arg(name));
+            error = saidOfKey(file, entry.key(), name, QStringLiteral("is wrong in \"%1\"").arg(name));
             return false;
         }
         into.insert(entry.key(), *value);
@@ -104,9 +104,9 @@ bool readSection(const QByteArray& file, const QJsonObject& root, const QString&
 
 } // namespace
 
-int lineOfKey(const QByteArray& file, const QString& key)
+int lineOfKey(const QByteArray& file, const QString& key, const QString& section)
 {
-    return lineAt(file, file.indexOf('"' + key.toUtf8() + '"'));
+    return reference::lineAt(file, reference::nameOffset(file, key.toUtf8(), section.toUtf8()));
 }
 
 std::optional<ThemeColors> readThemeColors(const QByteArray& file, QString& error)

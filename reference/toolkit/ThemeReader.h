@@ -38,7 +38,8 @@ WQ_EXPORT std::optional<ThemeColors> readThemeColors(const QByteArray& file, QSt
 /// The sizes, fonts and images that all themes share, from their file; errors as above.
 WQ_EXPORT std::optional<ThemeMetrics> readThemeMetrics(const QByteArray& file, QString& error);
 
-/// The line, from 1, in which @p key stands first as a name in quotes; 1 when it stands nowhere.
-WQ_EXPORT int lineOfKey(const QByteArray& file, const QString& key);
+/// The line, from 1, in which @p key stands first as a name, with a section as a name of that section; 1 when it stands
+/// nowhere. The file must be valid JSON.
+WQ_EXPORT int lineOfKey(const QByteArray& file, const QString& key, const QString& section = QString());
 
 } // namespace WQ

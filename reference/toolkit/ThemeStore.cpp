@@ -1,7 +1,9 @@
 #include "reference/toolkit/ThemeStore.h"
 
+#include "reference/services/FileReport.h"
+
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 
 namespace WQ {
 
@@ -27,27 +29,26 @@ ThemeStore& ThemeStore::instance()
 ThemeStore::ThemeStore()
     : m_folders{kCompiledFolder}
 {
+    reference::LoadReport report;
     const QString fileName = fileOf(kMetricsName);
+    const QByteArray file = reference::readWhole(fileName, report, kLargestFile);
     QString error;
-    if (const auto metrics = readThemeMetrics(contents(fileName), error))
+    if (const auto metrics = readThemeMetrics(file, error))
         m_metrics = *metrics;
     else
-        reportOnce(fileName + QLatin1Char(':') + error);
+        report.error = fileName + QLatin1Char(':') + error;
+    reference::sayReport(fileName, report);
     setTheme(kDefaultTheme);
 }
 
 // Bounded, so that a host which makes keys up does not fill the memory with them.
-void ThemeStore::reportOnce(const QString& what)
+void ThemeStore::reportUnknown(const char* kind, const QString& key)
 {
+    const QString what = QStringLiteral("unknown %1 key %2").arg(QLatin1String(kind), reference::quoted(key));
     if (m_reported.size() >= kReportsKept || m_reported.contains(what))
         return;
     m_reported.insert(what);
     qWarning("theme: %s", qUtf8Printable(what));
-}
-
-void ThemeStore::reportUnknown(const char* kind, const QString& key)
-{
-    reportOnce(QStringLiteral("unknown %1 key \"%2\"").arg(QLatin1String(kind), key.left(80)));
 }
 
 const QColor& ThemeStore::color(const QString& key)
@@ -91,7 +92,7 @@ QStringList ThemeStore::themes() const
 {
     QStringList names;
     for (const QString& folder : m_folders) {
-        const QStringList files = QDir(folder).entryList({QStringLiteral("*.json")}, QDir::Files);
+        const QStringList files = QDir(folder).entryList({QStringLiteral("*.json")}, QDir::Files | QDir::CaseSensitive);
         for (const QString& file : files)
             names.append(file.chopped(5));
     }
@@ -111,46 +112,56 @@ QString ThemeStore::fileOf(const QString& theme) const
 {
     for (const QString& folder : m_folders) {
         const QString fileName = QStringLiteral("%1/%2.json").arg(folder, theme);
-        if (QFile::exists(fileName))
+        if (QFileInfo(fileName).isFile())
             return fileName;
     }
     return {};
 }
 
-QByteArray ThemeStore::contents(const QString& fileName)
+// A theme that left a colour out would show that of the theme before it; one that added a colour would leave it to the
+// themes after it.
+void ThemeStore::checkKeys(const QByteArray& file, const QString& fileName, ThemeColors& colors,
+                           reference::LoadReport& report) const
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return file.read(kLargestFile);
+    const QString section = QStringLiteral("colors");
+    QStringList keys = colors.keys();
+    keys.sort();
+    for (const QString& key : qAsConst(keys)) {
+        if (m_colors.count(key) != 0 || m_colors.empty())
+            continue;
+        colors.remove(key);
+        report.notes.append(reference::placed(fileName, lineOfKey(file, key, section),
+                                              QStringLiteral("unknown key %1 is ignored").arg(reference::quoted(key))));
+    }
+    for (const auto& entry : m_colors) {
+        if (!colors.contains(entry.first))
+            report.error = reference::placed(fileName, lineOfKey(file, section),
+                                             QStringLiteral("lacks %1").arg(reference::quoted(entry.first)));
+    }
 }
 
-// A theme that left a colour out would show that of the theme before it.
-bool ThemeStore::isComplete(const ThemeColors& colors, const QString& fileName)
+std::optional<ThemeColors> ThemeStore::readTheme(const QString& fileName) const
 {
-    for (const auto& entry : m_colors) {
-        if (colors.contains(entry.first))
-            continue;
-        reportOnce(QStringLiteral("%1:%2: lacks \"%3\"")
-                       .arg(fileName)
-                       .arg(lineOfKey(contents(fileName), QStringLiteral("colors")))
-                       .arg(entry.first));
-        return false;
-    }
-    return true;
+    reference::LoadReport report;
+    const QByteArray file = reference::readWhole(fileName, report, kLargestFile);
+    std::optional<ThemeColors> colors;
+    QString error;
+    if (report.isGood())
+        colors = readThemeColors(file, error);
+    if (colors)
+        checkKeys(file, fileName, *colors, report);
+    else if (report.isGood())
+        report.error = fileName + QLatin1Char(':') + error;
+    reference::sayReport(fileName, report);
+    return report.isGood() ? colors : std::nullopt;
 }
 
 bool ThemeStore::setTheme(const QString& name)
 {
     const bool isName = themes().contains(name);
     const QString fileName = isName ? fileOf(name) : QString();
-    if (fileName.isEmpty())
-        return false;
-    QString error;
-    const auto colors = readThemeColors(contents(fileName), error);
+    const auto colors = fileName.isEmpty() ? std::nullopt : readTheme(fileName);
     if (!colors)
-        reportOnce(fileName + QLatin1Char(':') + error);
-    if (!colors || !isComplete(*colors, fileName))
         return false;
     for (auto entry = colors->constBegin(); entry != colors->constEnd(); ++entry)
         m_colors[entry.key()] = entry.value();

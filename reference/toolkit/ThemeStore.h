@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reference/services/LoadReport.h"
 #include "reference/toolkit/ThemeReader.h"
 
 #include <QSet>
@@ -38,11 +39,11 @@ public:
 
 private:
     ThemeStore();
-    void reportOnce(const QString& what);
     void reportUnknown(const char* kind, const QString& key);
     QString fileOf(const QString& theme) const;
-    QByteArray contents(const QString& fileName);
-    bool isComplete(const ThemeColors& colors, const QString& fileName);
+    std::optional<ThemeColors> readTheme(const QString& fileName) const;
+    void checkKeys(const QByteArray& file, const QString& fileName, ThemeColors& colors,
+                   reference::LoadReport& report) const;
 
     QStringList m_folders;
     QString m_theme;
