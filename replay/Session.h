@@ -21,6 +21,9 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
+    /// Deletes every object and starts again.
+    void reset();
+
     /// Carries out one command: {"ok", "result", "events", "saves", "reloads"}, or {"ok": false, "error", ...} for a
     /// command that is wrong, which changes nothing. Throws nothing.
     Json run(const Json& command);

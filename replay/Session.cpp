@@ -1,0 +1,85 @@
+#include "replay/Session.h"
+
+#include "replay/Commands.h"
+#include "replay/Objects.h"
+
+#include "reference/services/ServiceControl.h"
+#include "reference/toolkit/Resources.h"
+
+#include <exception>
+
+namespace replay {
+
+namespace {
+
+constexpr double kFirstScale = 1.0;
+
+QString firstTheme()
+{
+    return QStringLiteral("dark");
+}
+
+/// What went wrong, or null; the answer's result otherwise.
+struct Outcome
+{
+    Json result;
+    Json error;
+};
+
+Outcome carryOut(Session& session, Objects& objects, const Json& command)
+{
+    try {
+        return {runCommand(session, objects, command), nullptr};
+    } catch (const WrongCommand& wrong) {
+        return {nullptr, wrong.what()};
+    } catch (const std::exception& unexpected) {
+        return {nullptr, std::string("the command was broken off: ") + unexpected.what()};
+    }
+}
+
+} // namespace
+
+class Session::Private
+{
+public:
+    Objects objects;
+};
+
+Session::Session()
+    : d(std::make_unique<Private>())
+{
+    reset();
+}
+
+Session::~Session() = default;
+
+void Session::reset()
+{
+    d->objects.clear();
+    reference::resetServices();
+    WQ::resources::setScale(kFirstScale);
+    WQ::resources::setTheme(firstTheme());
+}
+
+Json Session::run(const Json& command)
+{
+    d->objects.takeHookCounts();
+    const Outcome outcome = carryOut(*this, d->objects, command);
+    const Objects::HookCounts hooks = d->objects.takeHookCounts();
+    Json answer = Json::object();
+    answer["ok"] = outcome.error.is_null();
+    answer["result"] = outcome.result;
+    if (!outcome.error.is_null())
+        answer["error"] = outcome.error;
+    answer["events"] = d->objects.takeEvents();
+    answer["saves"] = hooks.saves;
+    answer["reloads"] = hooks.reloads;
+    return answer;
+}
+
+QWidget* Session::object(const QString& name) const
+{
+    return d->objects.find(name.toStdString());
+}
+
+} // namespace replay
