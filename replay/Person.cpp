@@ -126,7 +126,7 @@ void checkKeys(const Json& command)
         throw WrongCommand("an edit gives value, unit, checked, text, index, low with high, time or elapse");
 }
 
-QAbstractButton* pushButton(const QWidget& parent, int id)
+WQ::CPushButton* pushButton(const QWidget& parent, int id)
 {
     const auto buttons = parent.findChildren<WQ::CPushButton*>(QString(), Qt::FindDirectChildrenOnly);
     const auto found = std::find_if(buttons.begin(), buttons.end(),
@@ -139,28 +139,34 @@ QAbstractButton* helpButton(const WQ::CDropDownButtonGroup& group)
 {
     const QString name = WQ::CDropDownButtonGroup::tr("帮助");
     for (WQ::IconButton* button : group.findChildren<WQ::IconButton*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (button->accessibleName() == name)
+        if (button->accessibleName() == name && !button->isHidden())
             return button;
     }
     return nullptr;
 }
 
-/// A button that the strip is too narrow for stands in the drop-down, within reach all the same.
-bool isOffered(WQ::CDropDownButtonGroup& group, int id)
+/// A button that the strip is too narrow for stands in the drop-down, within reach all the same; one without text and
+/// icon takes no room anywhere.
+QAbstractButton* offeredButton(WQ::CDropDownButtonGroup& group, int id)
 {
-    return group.getParam().split(QLatin1Char(',')).contains(QString::number(id));
+    if (!group.getParam().split(QLatin1Char(',')).contains(QString::number(id)))
+        return nullptr;
+    WQ::CPushButton* button = pushButton(group, id);
+    return button->text().isEmpty() && button->iconKey().isEmpty() ? nullptr : button;
 }
 
 QAbstractButton* buttonWithinReach(const Object& object, int id)
 {
-    if (object.widget->isWindow())
-        return pushButton(*object.widget, id);
+    if (object.widget->isWindow()) {
+        QAbstractButton* button = pushButton(*object.widget, id);
+        return isHiddenIn(object, button) ? nullptr : button;
+    }
     WQ::CDropDownButtonGroup* group = object.buttons();
     if (!group || isHiddenIn(object, group))
         return nullptr;
     if (id == kHelpButton)
         return helpButton(*group);
-    return isOffered(*group, id) ? pushButton(*group, id) : nullptr;
+    return offeredButton(*group, id);
 }
 
 } // namespace
