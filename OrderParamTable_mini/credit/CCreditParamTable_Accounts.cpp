@@ -2,6 +2,7 @@
 
 #include <OrderParamTable_mini/credit/CreditFormat.h>
 #include <OrderParamTable_mini/credit/CreditLayout.h>
+#include <OrderParamTable_mini/frame/HeldException.h>
 
 #include <TC/CAccountData.h>
 #include <TC/DataCenter.h>
@@ -32,6 +33,7 @@ void CCreditParamTable::getComBoDisplayAccounts(QStringList&, QVector<QVariant>&
 
 void CCreditParamTable::refreshAccounts()
 {
+    const HeldException held;
     QStringList names;
     QVector<QVariant> accounts;
     getComBoDisplayAccounts(names, accounts);
@@ -46,6 +48,7 @@ void CCreditParamTable::refreshAccounts()
 
 void CCreditParamTable::setSelectAccount(const std::string& accountId)
 {
+    const HeldException held;
     const QVariant account = WQ::sToQs(accountId);
     m_table->setComboData(CR_Account, account);
     if (!sendAccount(0, account))
@@ -63,7 +66,7 @@ bool CCreditParamTable::sendAccount(int value, const QVariant& account)
 bool CCreditParamTable::sendAndStayAlive(int event, int value, void* payload)
 {
     const QPointer<CCreditParamTable> alive(this);
-    deliverEvent(event, CR_Identity, value, noText(), payload);
+    HeldException::run([&] { deliverEvent(event, CR_Identity, value, noText(), payload); });
     return !alive.isNull();
 }
 

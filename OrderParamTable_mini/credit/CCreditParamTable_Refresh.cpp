@@ -3,6 +3,7 @@
 #include <OrderParamTable_mini/credit/CreditFormat.h>
 #include <OrderParamTable_mini/credit/CreditLayout.h>
 #include <OrderParamTable_mini/credit/CreditParameterString.h>
+#include <OrderParamTable_mini/frame/HeldException.h>
 
 #include <WQ/CMultiParamsTable.h>
 
@@ -30,6 +31,7 @@ void CCreditParamTable::setTexts(std::initializer_list<int> rows, const QString&
 
 void CCreditParamTable::refreshUIData()
 {
+    const HeldException held;
     const bool isRemembered = m_savedValues.contains(m_operationType);
     if (m_savedValues.value(m_operationType).value(CR_Contract).toString().isEmpty()) {
         setTexts({CR_Contract, CR_Unrepaid, CR_RepayableToday, CR_Funds, CR_Repayable}, noText());
@@ -83,6 +85,7 @@ void CCreditParamTable::setFixCodeText(const QString& code, bool setCode, bool r
 
 void CCreditParamTable::fixCodeChanged(const QString& code)
 {
+    const HeldException held;
     if (!code.isEmpty())
         return;
     setFixCodeText(code, false, false, std::string());

@@ -1,5 +1,6 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
+#include <OrderParamTable_mini/frame/HeldException.h>
 #include <OrderParamTable_mini/semantics/OrderModes.h>
 
 #include <WQ/CDropDownButtonGroup.h>
@@ -22,6 +23,28 @@ const QString& noText()
 /// The smallest value that a host's limited cell takes.
 constexpr double kSmallestLimitedValue = 0.5;
 
+/// The click has checked the button of a mode that was not entered.
+void checkAgain(WQ::CDropDownButtonGroup* group, EOrderType type)
+{
+    if (group)
+        group->setCheckedByID(modeButton(type));
+}
+
+/// A switch that cannot store what was entered does not take place. False when the table is gone.
+template <class Stay>
+bool saveBeforeSwitch(COrderParamBaseTable& table, Stay stay)
+{
+    const QPointer<COrderParamBaseTable> alive(&table);
+    try {
+        table.save();
+    } catch (...) {
+        if (alive)
+            stay();
+        throw;
+    }
+    return !alive.isNull();
+}
+
 } // namespace
 
 bool COrderParamBaseTable::isParameterSetMode() const
@@ -37,21 +60,21 @@ bool COrderParamBaseTable::isInMode(EOrderType type) const
 bool COrderParamBaseTable::send(int event, int a, int b, const QString& text, void* payload)
 {
     const QPointer<COrderParamBaseTable> alive(this);
-    deliverEvent(event, a, b, text, payload);
+    HeldException::run([&] { deliverEvent(event, a, b, text, payload); });
     return !alive.isNull();
 }
 
 bool COrderParamBaseTable::saveAndStayAlive()
 {
     const QPointer<COrderParamBaseTable> alive(this);
-    save();
+    HeldException::run([this] { save(); });
     return !alive.isNull();
 }
 
 bool COrderParamBaseTable::reloadAndStayAlive()
 {
     const QPointer<COrderParamBaseTable> alive(this);
-    reloadParam();
+    HeldException::run([this] { reloadParam(); });
     return !alive.isNull();
 }
 
@@ -63,12 +86,13 @@ bool COrderParamBaseTable::announceChange(const QString& text)
 bool COrderParamBaseTable::recolourPriceDisplay()
 {
     const QPointer<COrderParamBaseTable> alive(this);
-    resetShowFixPrice();
+    HeldException::run([this] { resetShowFixPrice(); });
     return !alive.isNull();
 }
 
 bool COrderParamBaseTable::handleEvent(int event, int a, int b, QString text, void* payload)
 {
+    const HeldException held;
     switch (event) {
     case 5:
         if (onButtonClicked(a, text))
@@ -130,9 +154,14 @@ bool COrderParamBaseTable::onButtonClicked(int buttonId, const QString& text)
 
 bool COrderParamBaseTable::enterPlainMode(EOrderType type)
 {
+    const auto stay = [this, index = m_paramIndex, before = m_orderType] {
+        if (m_orderType == before)
+            m_paramIndex = index;
+        checkAgain(m_btnGroup, m_orderType);
+    };
     m_paramIndex = -1;
     saveVisibleFlag(m_expand);
-    if (m_ready && !saveAndStayAlive())
+    if (m_ready && !saveBeforeSwitch(*this, stay))
         return false;
     m_paramIndex = -1; // save() may have chosen another mode
     m_orderType = type;
@@ -149,7 +178,7 @@ bool COrderParamBaseTable::enterPlainMode(EOrderType type)
 bool COrderParamBaseTable::enterParameterSetMode(EOrderType type)
 {
     saveVisibleFlag(m_expand);
-    if (m_ready && !saveAndStayAlive())
+    if (m_ready && !saveBeforeSwitch(*this, [this] { checkAgain(m_btnGroup, m_orderType); }))
         return false;
     m_paramIndex = parameterSetIndex(type);
     m_orderType = type;

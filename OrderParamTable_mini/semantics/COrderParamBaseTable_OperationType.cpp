@@ -1,6 +1,7 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
 #include <OrderParamTable_mini/frame/CellUnits.h>
+#include <OrderParamTable_mini/frame/HeldException.h>
 #include <OrderParamTable_mini/semantics/OrderState.h>
 #include <OrderParamTable_mini/semantics/VolumeTypes.h>
 
@@ -33,6 +34,7 @@ void rebuildVolumeTypes(WQ::CMultiParamsTable& table, const OrderState& state)
 
 void COrderParamBaseTable::setOperationType(EOperationType operationType)
 {
+    const HeldException held;
     const EOperationType previous = m_operationType;
     m_operationType = operationType;
     if (m_table && hasVolumeTypesByOperation(state())) {

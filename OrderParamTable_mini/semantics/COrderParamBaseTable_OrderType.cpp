@@ -1,5 +1,6 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
+#include <OrderParamTable_mini/frame/HeldException.h>
 #include <OrderParamTable_mini/frame/Services.h>
 #include <OrderParamTable_mini/semantics/OrderModes.h>
 #include <OrderParamTable_mini/semantics/OrderState.h>
@@ -17,6 +18,7 @@ using namespace ttservice;
 
 void COrderParamBaseTable::setOrderType(EOrderType type)
 {
+    const HeldException held;
     // The rebuild sees the order type that is being left.
     if (type != m_orderType)
         resetPriceType();

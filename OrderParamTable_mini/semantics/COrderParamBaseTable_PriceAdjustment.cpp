@@ -1,6 +1,7 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
 #include <OrderParamTable_mini/frame/CellUnits.h>
+#include <OrderParamTable_mini/frame/HeldException.h>
 #include <OrderParamTable_mini/semantics/PriceAdjustment.h>
 
 #include <WQ/CCheckParamUnitCellDelegate.h>
@@ -12,6 +13,7 @@ using namespace ttservice;
 
 void COrderParamBaseTable::setFixedPrice(double price)
 {
+    const HeldException held;
     if (!m_table || m_orderType == ORDER_TYPE_PARAM_SET_5)
         return;
     m_table->setComboData(OCF_PriceType, int(PRTP_FIX));
@@ -33,6 +35,7 @@ void COrderParamBaseTable::setOriginalPrice(double price)
 // A typed price is never overwritten by a quoted one.
 void COrderParamBaseTable::setPriceImpl(double price, QString text)
 {
+    const HeldException held;
     if (m_priceType == PRTP_FIX)
         return;
     m_originalPrice = price;
@@ -41,6 +44,7 @@ void COrderParamBaseTable::setPriceImpl(double price, QString text)
 
 void COrderParamBaseTable::resetShowFixPrice()
 {
+    const HeldException held;
     const PriceDisplayEvent display = priceDisplayEvent(m_priceType);
     if (display.event == 0 || !send(display.event, m_id, 1, QString::fromLatin1(display.colourKey)))
         return;

@@ -1,5 +1,6 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
+#include <OrderParamTable_mini/frame/HeldException.h>
 #include <OrderParamTable_mini/frame/Services.h>
 #include <OrderParamTable_mini/semantics/OrderState.h>
 #include <OrderParamTable_mini/semantics/PriceTypes.h>
@@ -80,6 +81,7 @@ void COrderParamBaseTable::setPriceType(EPriceType priceType)
 
 void COrderParamBaseTable::selectPrice(EPriceType priceType)
 {
+    const HeldException held;
     if (!m_table)
         return;
     m_table->setComboData(OCF_InitialQuote, int(priceType));

@@ -1,5 +1,6 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
+#include <OrderParamTable_mini/frame/HeldException.h>
 #include <OrderParamTable_mini/semantics/ParameterString.h>
 #include <OrderParamTable_mini/semantics/SettingsDefaults.h>
 
@@ -40,6 +41,7 @@ COrderSetting COrderParamBaseTable::getDefaultOrderSetting(EOperationType, ENvTr
 
 COrderSetting COrderParamBaseTable::getOrderSettings(int key)
 {
+    const HeldException held;
     return saveAndStayAlive() ? m_orderSettings.value(key) : COrderSetting();
 }
 

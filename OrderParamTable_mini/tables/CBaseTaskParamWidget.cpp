@@ -56,11 +56,12 @@ CBaseTaskParamWidget::~CBaseTaskParamWidget()
 
 void CBaseTaskParamWidget::createUi(const CCodeOrderParam& param, QString tradeParam, std::string extra)
 {
+    // The table first: what a host throws when it hears of it would leave layouts that nobody owns.
+    m_table = createTaskTable(param, {m_traderType, false, m_tableFlag}, tradeParam, extra, this);
     auto* const root = new QHBoxLayout;
     root->setContentsMargins(15, 36, 15, 13);
     auto* const column = new QVBoxLayout;
     column->setContentsMargins(0, 0, 0, 0);
-    m_table = createTaskTable(param, {m_traderType, false, m_tableFlag}, tradeParam, extra, this);
     QWidget* const shown = m_table ? static_cast<QWidget*>(m_table) : new TaskNotice(this);
     column->addWidget(shown, 1);
     if (m_table)

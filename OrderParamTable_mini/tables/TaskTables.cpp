@@ -11,6 +11,17 @@ using namespace ttservice;
 
 namespace {
 
+/// The operation is announced to the host, who may do anything with the table. What he throws leaves no table behind.
+void applyOperation(const QPointer<CGlobalOrderParamTable>& table, EOperationType operationType)
+{
+    try {
+        table->setOperationType(operationType);
+    } catch (...) {
+        delete table.data();
+        throw;
+    }
+}
+
 /// Stands for the trader type of the dialog.
 constexpr ENvTraderType kTraderOfDialog = ENvTraderType(0);
 
@@ -88,9 +99,8 @@ CGlobalOrderParamTable* createTaskTable(const CCodeOrderParam& task, const TaskT
     const bool lastFlag = row->takesTableFlag && !choice.isBasket && choice.tableFlag;
     const QPointer<CGlobalOrderParamTable> table =
         new CGlobalOrderParamTable(row->identity, row->broker, true, parent, false, traderOf(*row, choice), lastFlag);
-    // The operation is announced to the host, who may do anything with the table.
     if (row->appliesOperation)
-        table->setOperationType(task.operationType);
+        applyOperation(table, task.operationType);
     if (!table)
         return nullptr;
     if (const int flags = flagsOf(*row, choice, task.orderType))
