@@ -6,6 +6,7 @@
 #include <QtGlobal>
 
 #include <algorithm>
+#include <exception>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -23,6 +24,7 @@ struct Announcements
     bool theme = false; ///< to be told
     bool scale = false; ///< to be told
     bool telling = false;
+    std::exception_ptr thrown; ///< the first that a handler has thrown; the others are told nevertheless
 };
 
 Announcements& state()
@@ -54,12 +56,22 @@ bool isAlive(const Recipient& recipient)
     return found != state().registered.end() && found->second == recipient.serial;
 }
 
+void tellOf(const Recipient& recipient, void (CUiResourceChangeHandler::*change)())
+{
+    try {
+        (recipient.handler->*change)();
+    } catch (...) {
+        if (!state().thrown)
+            state().thrown = std::current_exception();
+    }
+}
+
 void tell(const Recipient& recipient, bool theme, bool scale)
 {
     if (theme && isAlive(recipient))
-        recipient.handler->themeChanged();
+        tellOf(recipient, &CUiResourceChangeHandler::themeChanged);
     if (scale && isAlive(recipient) && !dynamic_cast<CMultiParamsTable*>(recipient.handler))
-        recipient.handler->scaleChanged();
+        tellOf(recipient, &CUiResourceChangeHandler::scaleChanged);
 }
 
 constexpr int kMostRounds = 64;
@@ -77,12 +89,8 @@ struct Telling
     Q_DISABLE_COPY(Telling)
 };
 
-void tellAll()
+void tellEveryRound(Announcements& pending)
 {
-    Announcements& pending = state();
-    if (pending.telling)
-        return;
-    const Telling telling;
     for (int round = 0; pending.theme || pending.scale; ++round) {
         const bool theme = std::exchange(pending.theme, false);
         const bool scale = std::exchange(pending.scale, false);
@@ -93,6 +101,19 @@ void tellAll()
         for (const Recipient& recipient : recipients())
             tell(recipient, theme, scale);
     }
+}
+
+void tellAll()
+{
+    Announcements& pending = state();
+    if (pending.telling)
+        return;
+    {
+        const Telling telling;
+        tellEveryRound(pending);
+    }
+    if (const std::exception_ptr thrown = std::exchange(pending.thrown, nullptr))
+        std::rethrow_exception(thrown);
 }
 
 } // namespace

@@ -5,7 +5,7 @@ namespace WQ {
 class CUiResourceChangeHandler;
 
 /// The registered change handlers. While they are told, handlers may come and go and changes be made; those are told
-/// afterwards, to everyone, so that in the end all know the last state.
+/// afterwards, to everyone, so that in the end all know the last state. What a handler throws passes when all are told.
 namespace handlers {
 
 void add(CUiResourceChangeHandler* handler);
