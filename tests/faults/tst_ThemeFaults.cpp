@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <stdexcept>
 #include <sys/stat.h>
 
 using namespace WQ;
@@ -39,9 +40,12 @@ struct Handler : CUiResourceChangeHandler
     void themeChanged() override
     {
         ++themes;
+        if (throws)
+            throw std::runtime_error("refused");
     }
 
     int themes = 0;
+    bool throws = false;
 };
 
 struct FileRow
@@ -131,6 +135,7 @@ private Q_SLOTS:
     void wrongImagesAreRefused_data();
     void wrongImagesAreRefused();
     void aMissingImageIsShownAndSaidOnce();
+    void aHandlerThatThrowsLeavesNobodyOut();
 
 private:
     /// A theme of its own for each test: folders stay in the list of folders.
@@ -350,6 +355,19 @@ void tst_ThemeFaults::aMissingImageIsShownAndSaidOnce()
     QVERIFY(LogLines::warnings().size() <= 1);
     QCOMPARE(resources::image(QStringLiteral("img_that_is_gone"), Qt::red, QSize(4, 4), 1.0).toImage().pixelColor(2, 2),
              QColor(0xff, 0x00, 0xff));
+}
+
+void tst_ThemeFaults::aHandlerThatThrowsLeavesNobodyOut()
+{
+    Handler other;
+    m_handler->throws = true;
+    QVERIFY_EXCEPTION_THROWN(resources::setTheme(QStringLiteral("dark")), std::runtime_error);
+    QCOMPARE(resources::theme(), QStringLiteral("dark"));
+    QCOMPARE(other.themes, 1);
+    m_handler->throws = false;
+    QVERIFY(resources::setTheme(QStringLiteral("light")));
+    QCOMPARE(other.themes, 2);
+    verifyLightInForce(2);
 }
 
 QTEST_MAIN(tst_ThemeFaults)

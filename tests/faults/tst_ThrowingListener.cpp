@@ -1,6 +1,7 @@
 #include "credit/CreditPanel.h"
 #include "faults/FaultCount.h"
 #include "faults/LogLines.h"
+#include "faults/PublicCalls.h"
 #include "support/CellText.h"
 #include "support/HelpButton.h"
 #include "support/ModuleGuard.h"
@@ -199,44 +200,6 @@ std::vector<TableKind> tableKinds()
 }
 // clang-format on
 
-/// Everything that makes any table send events, one call after the other.
-std::vector<std::function<void(TC::COrderParamBaseTable&)>> publicCalls()
-{
-    using Table = TC::COrderParamBaseTable;
-    static QVariant data(5);
-    static int outside = 12;
-    std::vector<std::function<void(Table&)>> calls = {
-        [](Table& table) { table.setFixedPrice(3.25); },
-        [](Table& table) { table.setOperationType(ttservice::EOperationType(21)); },
-        [](Table& table) { table.handleEvent(1213, 0, 0, QStringLiteral("x"), &outside); },
-        [](Table& table) { table.setOrderType(ttservice::EOrderType(5)); },
-        [](Table& table) { table.setOrderType(ttservice::EOrderType(1)); },
-        [](Table& table) { table.selectPrice(ttservice::PRTP_BUY1); },
-        [](Table& table) { table.handleEvent(73, 1, 0, QStringLiteral("x"), &data); },
-        [](Table& table) { table.resetTriggerPriceSetting(); },
-    };
-    for (const int button : {605, 602, 601, 600})
-        calls.emplace_back([button](Table& table) { table.handleEvent(5, button, 0, QStringLiteral("x"), nullptr); });
-    for (const int number : {87, 118, 101, 102, 97, 124, 248})
-        calls.emplace_back(
-            [number](Table& table) { table.handleEvent(number, 0x200, 0, QStringLiteral("x"), nullptr); });
-    return calls;
-}
-
-QString seenByAll(TC::COrderParamBaseTable& table)
-{
-    QStringList text = cellRows(*table.getMultiParamsTable());
-    text << QStringLiteral("order %1 operation %2 price %3 \"%4\" at %5 button %6 param ")
-                .arg(int(table.orderType()))
-                .arg(int(table.getOperationType()))
-                .arg(int(table.priceType()))
-                .arg(table.getCurrentPriceTypeName())
-                .arg(table.getModifiedPriceByOptTypeForCalc(ttservice::EOperationType(1), false))
-                .arg(table.getSelectedButton())
-            + table.param() + idText(shownCells(*table.getMultiParamsTable()));
-    return text.join(QLatin1Char('\n'));
-}
-
 /// What a person does at a table, as its cell table and its buttons tell it.
 struct PersonEvent
 {
@@ -383,14 +346,14 @@ void tst_ThrowingListener::everyTableAtEveryCall()
     auto* const quiet = table.make(&quietHost);
     auto* const disturbed = table.make(&throwingHost);
     throwingHost.onEvent = [](int number) { throw Thrown{number}; };
-    for (const auto& call : publicCalls()) {
+    for (const auto& call : faults::publicCalls()) {
         call(*quiet);
         const QStringList heard = quietHost.take();
         m_count.begin();
         const int caught = caughtFrom([&] { call(*disturbed); });
         QCOMPARE(throwingHost.take(), heard);
         QCOMPARE(caught, heard.isEmpty() ? -1 : heard.first().section(QLatin1Char('('), 0, 0).toInt());
-        QCOMPARE(seenByAll(*disturbed), seenByAll(*quiet));
+        QCOMPARE(faults::seen(*disturbed), faults::seen(*quiet));
         m_count.end();
     }
 }
