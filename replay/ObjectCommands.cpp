@@ -7,6 +7,7 @@
 #include <WQ/CPushButton.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QPixmap>
 
 namespace replay {
@@ -137,9 +138,12 @@ Json resize(const Run& run)
 
 Json screenshot(const Run& run)
 {
-    const QString file = run.value<QString>("file");
-    if (!run.object().widget->grab().save(file, "PNG"))
-        throw WrongCommand("cannot write the picture " + file.toStdString());
+    QWidget& widget = *run.object().widget;
+    QFile file(run.value<QString>("file"));
+    if (!file.open(QIODevice::WriteOnly))
+        throw WrongCommand("cannot write the picture " + file.fileName().toStdString());
+    if (!widget.grab().save(&file, "PNG"))
+        throw WrongCommand("the picture " + file.fileName().toStdString() + " was not written whole");
     return nullptr;
 }
 

@@ -39,7 +39,6 @@ private Q_SLOTS:
     void theCreditTable();
     void otherWidgetsAreNull();
     void aDumpChangesNothing();
-    void aDumpIsQuick();
 };
 
 void tst_State::everyClassHasItsName()
@@ -198,20 +197,6 @@ void tst_State::aDumpChangesNothing()
     QCoreApplication::processEvents();
     QCOMPARE(written(stateOf(table)), first);
     QCOMPARE(host.take(), QStringList());
-}
-
-void tst_State::aDumpIsQuick()
-{
-    const support::ModuleGuard on({support::modules::kCommandRemark});
-    const BaseTableProbe table;
-    constexpr int kDumps = 200;
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < kDumps; ++i)
-        stateOf(&table);
-    const double milliseconds = double(timer.nsecsElapsed()) / 1e6 / kDumps;
-    qInfo("a dump of %d cells takes %.3f ms", int(stateOf(&table)["cells"].size()), milliseconds);
-    QVERIFY2(milliseconds < 5, "a dump is far slower than the commands it follows");
 }
 
 QTEST_MAIN(tst_State)
