@@ -11,7 +11,8 @@ cd "$project_root"
 build_packages=(
     cmake ninja-build g++ ccache
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
-    libboost-dev libbenchmark-dev valgrind
+    libboost-dev nlohmann-json3-dev
+    libbenchmark-dev librapidcheck-dev abigail-tools valgrind
     fontconfig fonts-noto-cjk
 )
 
