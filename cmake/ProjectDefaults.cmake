@@ -20,7 +20,10 @@ set(orderparam_sanitize_flags "")
 if(ORDERPARAM_SANITIZE)
     set(orderparam_sanitize_flags -fsanitize=${ORDERPARAM_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
 endif()
-if(ORDERPARAM_COVERAGE)
+# Clang counts the branches of the source; GCC those of its code, the clean-up after exceptions among them.
+if(ORDERPARAM_COVERAGE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    list(APPEND orderparam_sanitize_flags -fprofile-instr-generate -fcoverage-mapping)
+elseif(ORDERPARAM_COVERAGE)
     list(APPEND orderparam_sanitize_flags --coverage)
 endif()
 
