@@ -116,8 +116,10 @@ void CGlobalOrderParamTable::setNvAlgoHideAmountUsed(bool, int)
 void CGlobalOrderParamTable::fixTimeRange()
 {
     COrderSetting& setting = m_settingsByOrderType[orderType()];
+    if (!hasValidTime(setting.orderType))
+        return;
     const CTimeService* const clock = getTimeService();
-    if (!clock || !hasValidTime(setting.orderType))
+    if (!clock)
         return;
     const ValidTime moved = validTimeOnDay({setting.validTimeStart, setting.validTimeEnd}, clock->currentTime());
     setting.validTimeStart = moved.start;
@@ -126,11 +128,14 @@ void CGlobalOrderParamTable::fixTimeRange()
 
 void CGlobalOrderParamTable::transferTimePeriod(CCodeOrderParam* param)
 {
+    if (!param || !m_table || !hasValidTime(param->orderType))
+        return;
+    const bool isDuration = m_table->itemTimeRangeType(OCF_ValidTime) == WQ::TimeRangeDuration;
     const CTimeService* const clock = getTimeService();
-    if (!param || !clock || !m_table || !hasValidTime(param->orderType))
+    if (!clock)
         return;
     ValidTime range;
-    if (m_table->itemTimeRangeType(OCF_ValidTime) == WQ::TimeRangeDuration) {
+    if (isDuration) {
         range = validTimeFrom(clock->currentTime(), m_table->timeElapse(OCF_ValidTime));
     } else {
         const QPair<int, int> cell = m_table->timeRange(OCF_ValidTime);
