@@ -81,7 +81,9 @@ void CCreditParamTable::resetColumnWidth()
 {
     if (!m_table)
         return;
-    const WQ::CUiResource* const resources = WQ::CUiResource::instance();
+    // No other title depends on the scale.
+    const bool isScaled = m_operationType == ttservice::OPT_REPAY_LENDING_FEES;
+    const WQ::CUiResource* const resources = isScaled ? WQ::CUiResource::instance() : nullptr;
     const double scale = resources ? resources->getUIScale() : 1.0;
     m_table->setColumnWidth(0, titleColumnWidth(m_operationType, scale));
 }
