@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <exception>
+#include <utility>
 
 namespace WQ {
 
@@ -19,9 +20,15 @@ QEvent::Type personEventType()
     return type;
 }
 
-struct PersonEvent : QEvent
+PersonEventWatcher& theWatcher()
 {
-    PersonEvent(QWidget* who, CEventDeliverer& from)
+    static PersonEventWatcher watcher;
+    return watcher;
+}
+
+struct PostedEvent : QEvent
+{
+    PostedEvent(QWidget* who, CEventDeliverer& from)
         : QEvent(personEventType())
         , sender(who)
         , deliverer(from)
@@ -30,10 +37,7 @@ struct PersonEvent : QEvent
 
     QPointer<QWidget> sender;
     CEventDeliverer& deliverer;
-    int event = 0;
-    int a = 0;
-    int b = 0;
-    QString text;
+    PersonEvent person;
     QVariant data;
     bool withData = false;
 };
@@ -58,12 +62,15 @@ protected:
     {
         if (received->type() != personEventType())
             return;
-        auto& person = static_cast<PersonEvent&>(*received);
-        if (!person.sender)
+        auto& posted = static_cast<PostedEvent&>(*received);
+        if (!posted.sender)
             return;
+        const PersonEvent& person = posted.person;
+        if (theWatcher())
+            theWatcher()(*posted.sender, person);
         try {
-            person.deliverer.deliverEvent(person.event, person.a, person.b, person.text,
-                                          person.withData ? &person.data : nullptr);
+            posted.deliverer.deliverEvent(person.event, person.a, person.b, person.text,
+                                          posted.withData ? &posted.data : nullptr);
         } catch (const std::exception& exception) {
             reportException(exception.what());
         } catch (...) {
@@ -90,14 +97,17 @@ void postPersonEvent(QWidget* sender, CEventDeliverer& deliverer, int event, int
     Dispatcher* receiver = dispatcher();
     if (!sender || !receiver)
         return;
-    auto* person = new PersonEvent(sender, deliverer);
-    person->event = event;
-    person->a = a;
-    person->b = b;
-    person->text = std::move(text);
-    person->data = std::move(data);
-    person->withData = withData;
-    QCoreApplication::postEvent(receiver, person);
+    auto* posted = new PostedEvent(sender, deliverer);
+    posted->person = {event, a, b, std::move(text)};
+    posted->data = std::move(data);
+    posted->withData = withData;
+    QCoreApplication::postEvent(receiver, posted);
+}
+
+PersonEventWatcher watchPersonEvents(PersonEventWatcher watcher)
+{
+    checkGuiThread("watchPersonEvents");
+    return std::exchange(theWatcher(), std::move(watcher));
 }
 
 void deliverPostedPersonEvents()

@@ -58,6 +58,9 @@ private Q_SLOTS:
     void aDeliveryInsideADeliveryKeepsTheOrder();
     void exceptionsAreCaughtAndSaidOnce();
     void aNullSenderPostsNothing();
+    void aWatcherIsToldOfAnEventBeforeAnyListener();
+    void aWatcherIsToldNothingOfAnEventThatIsDropped();
+    void theWatcherBeforeComesBack();
 };
 
 void tst_PersonEvents::anEventGoesOutFromTheEventLoopNotAtOnce()
@@ -211,6 +214,50 @@ void tst_PersonEvents::aNullSenderPostsNothing()
     WQ::postPersonEvent(nullptr, *sender, 73, 0, 0, {});
     WQ::deliverPostedPersonEvents();
     QCOMPARE(host.log, QStringList());
+}
+
+void tst_PersonEvents::aWatcherIsToldOfAnEventBeforeAnyListener()
+{
+    Host host;
+    auto* sender = new EventWidget(&host);
+    QStringList watched;
+    WQ::watchPersonEvents([&](const QWidget& from, const WQ::PersonEvent& event) {
+        QCOMPARE(&from, sender);
+        QCOMPARE(host.log.size(), watched.size());
+        watched << QStringLiteral("%1 %2 %3 \"%4\"")
+                       .arg(QString::number(event.event), QString::number(event.a), QString::number(event.b),
+                            event.text);
+    });
+    WQ::postPersonEvent(sender, *sender, 73, 1, 3, QStringLiteral("指定价"));
+    WQ::postPersonEvent(sender, *sender, 248, 0, 0, {});
+    QCOMPARE(watched, QStringList());
+    WQ::deliverPostedPersonEvents();
+    WQ::watchPersonEvents({});
+    QCOMPARE(watched, QStringList({QStringLiteral("73 1 3 \"指定价\""), QStringLiteral("248 0 0 \"\"")}));
+    QCOMPARE(host.log.size(), 2);
+}
+
+void tst_PersonEvents::aWatcherIsToldNothingOfAnEventThatIsDropped()
+{
+    int told = 0;
+    WQ::watchPersonEvents([&](const QWidget&, const WQ::PersonEvent&) { ++told; });
+    auto gone = std::make_unique<EventWidget>();
+    post(gone.get(), 73);
+    gone.reset();
+    WQ::deliverPostedPersonEvents();
+    WQ::watchPersonEvents({});
+    QCOMPARE(told, 0);
+}
+
+void tst_PersonEvents::theWatcherBeforeComesBack()
+{
+    int first = 0;
+    QVERIFY(!WQ::watchPersonEvents([&](const QWidget&, const WQ::PersonEvent&) { ++first; }));
+    const WQ::PersonEventWatcher before = WQ::watchPersonEvents([](const QWidget&, const WQ::PersonEvent&) {});
+    QVERIFY(before);
+    before(QWidget(), {});
+    QCOMPARE(first, 1);
+    WQ::watchPersonEvents({});
 }
 
 QTEST_MAIN(tst_PersonEvents)
