@@ -76,7 +76,8 @@ LoadReport readConfiguration(const QString& path, const QByteArray& bytes, Confi
     QTemporaryFile copy(QDir::temp().filePath(QStringLiteral("orderparam-XXXXXX.ini")));
     const QByteArray content = lines.content();
     if (!copy.open() || copy.write(content) != content.size() || !copy.flush()) {
-        report.error = placed(path, 0, QStringLiteral("cannot be read: %1").arg(copy.errorString()));
+        report.error =
+            placed(path, 0, QStringLiteral("cannot be copied to %1: %2").arg(QDir::tempPath(), copy.errorString()));
         return report;
     }
     QSettings settings(copy.fileName(), QSettings::IniFormat);
