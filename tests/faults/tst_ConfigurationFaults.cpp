@@ -168,6 +168,7 @@ private Q_SLOTS:
     void aFolderThatIsReplacedIsFollowed();
     void aLinkIsFollowedToItsFile();
     void manyReplacementsEndWithTheLast();
+    void aTemporaryFolderThatIsNoneIsNamed();
 
 private:
     /// The watch has looked at the file since @p act began; a look that takes nothing is seen by this alone.
@@ -414,6 +415,21 @@ void tst_ConfigurationFaults::manyReplacementsEndWithTheLast()
     }
     QTRY_COMPARE(inForce(), QStringLiteral("300 m/300"));
     QCOMPARE(LogLines::warnings(), QStringList());
+}
+
+void tst_ConfigurationFaults::aTemporaryFolderThatIsNoneIsNamed()
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    const QString noFolder = m_folder->filePath(QStringLiteral("file"));
+    QVERIFY(writeFile(noFolder, "no folder"));
+    const LogLines log;
+    qputenv("TMPDIR", noFolder.toLocal8Bit());
+    const auto report = reference::loadConfiguration(m_path);
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    QVERIFY2(
+        report.error.startsWith(m_path + QStringLiteral(": cannot be copied to ") + noFolder + QLatin1String(": ")),
+        qPrintable(report.error));
+    QCOMPARE(inForce(), kGoodInForce);
 }
 
 QTEST_GUILESS_MAIN(tst_ConfigurationFaults)
