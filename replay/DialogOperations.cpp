@@ -3,6 +3,7 @@
 #include "replay/State.h"
 
 #include <OrderParamTable_mini/tables/CGlobalOrderParamTable.h>
+#include <WQ/CFloatWidget.h>
 
 namespace replay {
 
@@ -25,6 +26,14 @@ Json createdTable(BasketProbe& dialog, CCodeOrderParam param, QString tradeParam
 } // namespace
 
 // clang-format off
+const Operations& dialogOperations()
+{
+    static const Operations operations = {
+        operation<WQ::CFloatWidget>("setTitle", &WQ::CFloatWidget::setTitle, "title"),
+    };
+    return operations;
+}
+
 const Operations& basketProbeOperations()
 {
     static const Operations operations = {

@@ -16,21 +16,7 @@ constexpr int kPriceDisplay = 1062;
 constexpr int kParameterSetMode = 1206;
 constexpr int kPriceTypeFromOutside = 1213;
 
-} // namespace
-
-Host::Host(Json& log, std::function<QString(const QWidget*)> nameOf)
-    : m_log(log)
-    , m_nameOf(std::move(nameOf))
-{
-}
-
-bool Host::handleEvent(int event, int a, int b, QString text, void* payload)
-{
-    m_log.push_back(Json::array({event, a, b, written(text), dataOf(event, payload)}));
-    return false;
-}
-
-Json Host::dataOf(int event, const void* payload) const
+Json dataOf(int event, const void* payload, const WidgetNames& nameOf)
 {
     if (!payload)
         return nullptr;
@@ -40,12 +26,31 @@ Json Host::dataOf(int event, const void* payload) const
     case kPriceDisplay:
         return {{"double", written(*static_cast<const double*>(payload))}};
     case kParameterSetMode:
-        return {{"widget", written(m_nameOf(static_cast<const TC::COrderParamBaseTable*>(payload)))}};
+        return {{"widget", written(nameOf(static_cast<const TC::COrderParamBaseTable*>(payload)))}};
     case kPriceTypeFromOutside:
         return {{"int", *static_cast<const int*>(payload)}};
     default:
         return nullptr;
     }
+}
+
+} // namespace
+
+Json eventJson(int event, int a, int b, const QString& text, const void* payload, const WidgetNames& nameOf)
+{
+    return Json::array({event, a, b, written(text), dataOf(event, payload, nameOf)});
+}
+
+Host::Host(Json& log, WidgetNames nameOf)
+    : m_log(log)
+    , m_nameOf(std::move(nameOf))
+{
+}
+
+bool Host::handleEvent(int event, int a, int b, QString text, void* payload)
+{
+    m_log.push_back(eventJson(event, a, b, text, payload, m_nameOf));
+    return false;
 }
 
 } // namespace replay

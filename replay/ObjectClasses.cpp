@@ -81,15 +81,15 @@ const std::vector<ObjectClass>& objectClasses()
                     {&stopLossTableOperations(), &baseTableOperations()}),
         objectClass("CCreditParamTable", &makeCreditTable<TC::CCreditParamTable>, "", {&creditTableOperations()}),
         objectClass("CBaseTaskParamWidget", &makeTaskDialog,
-                    "param, tradeParam, flag, traderType, tableFlag, text", {}),
+                    "param, tradeParam, flag, traderType, tableFlag, text", {&dialogOperations()}),
         objectClass("CHpfBasketTaskParamWidget", &makeBasketDialog<TC::CHpfBasketTaskParamWidget>,
-                    "params, tradeParam, text", {}),
+                    "params, tradeParam, text", {&dialogOperations()}),
         objectClass("BaseTableProbe", &makeTable<BaseTableProbe>, kTableParameters,
                     {&baseTableProbeOperations(), &baseTableOperations()}),
         objectClass("CreditProbe", &makeCreditTable<CreditProbe>, "",
                     {&creditProbeOperations(), &creditTableOperations()}),
         objectClass("BasketProbe", &makeBasketDialog<BasketProbe>, "params, tradeParam, text",
-                    {&basketProbeOperations()}),
+                    {&basketProbeOperations(), &dialogOperations()}),
     };
     return classes;
 }

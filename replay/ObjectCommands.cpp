@@ -40,6 +40,19 @@ void readData(const Json& json, EventData& data)
     }
 }
 
+/// The library makes a button without a text where its host is to name it. @returns its place, negative without one
+int nameButton(WQ::CDropDownButtonGroup& group, int id, const QString& text)
+{
+    for (WQ::CPushButton* button : group.findChildren<WQ::CPushButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (button->id() != id || !button->text().isEmpty() || !button->iconKey().isEmpty())
+            continue;
+        button->setText(text);
+        group.resetLayout();
+        return group.getButtonList().indexOf(id);
+    }
+    return -1;
+}
+
 } // namespace
 
 Json makeObject(const Run& run)
@@ -69,6 +82,8 @@ Json addButton(const Run& run)
         throw WrongCommand("the object has no button group");
     const int id = run.value<int>("id");
     const QString text = run.value<QString>("text");
+    if (const int named = nameButton(*group, id, text); named >= 0)
+        return named;
     auto button = std::make_unique<WQ::CPushButton>(WQ::CButtonColor(), id, nullptr);
     button->setText(text);
     const int place = group->addButton(button.get(), WQ::AnchorStart);

@@ -147,6 +147,14 @@ Json Objects::takeEvents()
     return std::exchange(m_events, Json::array());
 }
 
+bool Objects::isAnyVisible() const
+{
+    return std::any_of(m_objects.begin(), m_objects.end(), [](const auto& named) {
+        const QPointer<QWidget>& widget = named.second.widget;
+        return widget && widget->isVisible();
+    });
+}
+
 Objects::HookCounts Objects::takeHookCounts()
 {
     HookCounts counts;

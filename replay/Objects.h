@@ -81,6 +81,9 @@ public:
     /// The events that have reached the hosts since the last call, in the order of arrival.
     Json takeEvents();
 
+    /// Whether one of them is on the screen.
+    bool isAnyVisible() const;
+
     /// How often the virtual save() and reloadParam() have run since the last call. Only probes count.
     struct HookCounts
     {

@@ -111,6 +111,7 @@ const Operations& codeTableOperations();
 const Operations& stopLossTableOperations();
 const Operations& creditTableOperations();
 const Operations& creditProbeOperations();
+const Operations& dialogOperations(); ///< of every task dialog
 const Operations& basketProbeOperations();
 const Operations& cellTableOperations();
 /// @}

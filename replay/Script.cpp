@@ -3,6 +3,9 @@
 #include "replay/Expectation.h"
 #include "replay/Session.h"
 
+#include <QString>
+
+#include <array>
 #include <functional>
 #include <istream>
 #include <ostream>
@@ -13,6 +16,11 @@ namespace replay {
 namespace {
 
 constexpr const char* kBlanks = " \t\r\v\f";
+
+// More than any command and any answer has. The JSON library copies and writes what is nested by recursion and looks
+// for each key among those before it: a line of brackets alone would use the stack up, one of keys take for ever.
+constexpr std::size_t kDeepest = 64;
+constexpr int kMostKeys = 1000;
 
 /// What becomes of a line: its number and text.
 using LineVisitor = std::function<void(int number, const std::string& line)>;
@@ -26,14 +34,48 @@ void visitCommandLines(std::istream& stream, const LineVisitor& visit)
     }
 }
 
+/// Why a line is not even looked at; empty for all but absurd ones.
+std::string absurdity(const std::string& line)
+{
+    std::array<int, kDeepest + 1> keys{}; // by depth, of the objects that are open
+    std::size_t depth = 0;
+    bool isText = false;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const char character = line[i];
+        if (isText && character == '\\')
+            ++i;
+        else if (character == '"')
+            isText = !isText;
+        else if (isText)
+            continue;
+        else if (character == '[' || character == '{') {
+            if (++depth > kDeepest)
+                return "nested deeper than " + std::to_string(kDeepest);
+            keys[depth] = 0;
+        } else if ((character == ']' || character == '}') && depth > 0)
+            --depth;
+        else if (character == ':' && ++keys[depth] > kMostKeys)
+            return "an object of more than " + std::to_string(kMostKeys) + " keys";
+    }
+    return {};
+}
+
+/// What is wrong may quote bytes of the line that are no UTF-8; an answer is.
 Json wrongLine(const std::string& why)
 {
-    return {{"ok", false}, {"result", nullptr}, {"error", "malformed JSON: " + why}, {"events", Json::array()},
-            {"saves", 0},  {"reloads", 0}};
+    return {{"ok", false},
+            {"result", nullptr},
+            {"error", "malformed JSON: " + QString::fromStdString(why).toStdString()},
+            {"events", Json::array()},
+            {"saves", 0},
+            {"reloads", 0}};
 }
 
 Json answerOf(Session& session, const std::string& line)
 {
+    const std::string problem = absurdity(line);
+    if (!problem.empty())
+        return wrongLine(problem);
     try {
         return session.run(Json::parse(line));
     } catch (const Json::exception& malformed) {
@@ -47,7 +89,7 @@ Json nextExpectation(std::istream& expected)
     while (std::getline(expected, line)) {
         if (!isCommandLine(line))
             continue;
-        Json json = Json::parse(line, nullptr, false);
+        Json json = absurdity(line).empty() ? Json::parse(line, nullptr, false) : Json();
         if (!json.is_object())
             throw std::runtime_error("an expectation is an object on one line: " + line);
         return json;

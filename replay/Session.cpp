@@ -6,6 +6,8 @@
 #include "reference/services/ServiceControl.h"
 #include "reference/toolkit/Resources.h"
 
+#include <QCoreApplication>
+
 #include <exception>
 
 namespace replay {
@@ -65,6 +67,8 @@ Json Session::run(const Json& command)
 {
     d->objects.takeHookCounts();
     const Outcome outcome = carryOut(*this, d->objects, command);
+    if (d->objects.isAnyVisible())
+        QCoreApplication::sendPostedEvents(); // what is shown is laid out and painted between two commands
     const Objects::HookCounts hooks = d->objects.takeHookCounts();
     Json answer = Json::object();
     answer["ok"] = outcome.error.is_null();
