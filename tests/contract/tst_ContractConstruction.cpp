@@ -45,6 +45,7 @@ private Q_SLOTS:
     void sizesAreReadByTheirKeys();
     void modulesAskedWhileATableIsBuilt_data();
     void modulesAskedWhileATableIsBuilt();
+    void modulesAreAskedInTheirPlaces();
     void configurationIsListenedToOnceATable();
     void buildingSendsNothingAndCallsNoHook();
     void destructionCallsNothing();
@@ -245,6 +246,27 @@ void tst_ContractConstruction::destructionCallsNothing()
     table.reset();
 
     QCOMPARE(recorder::calls(recorder::kEverything), QStringList());
+}
+
+void tst_ContractConstruction::modulesAreAskedInTheirPlaces()
+{
+    const BaseTableProbe table(setupOf(5, 2, 1));
+
+    const QStringList calls = recorder::calls(recorder::Do | recorder::Service);
+    const auto at = [&calls](const char* start) {
+        for (int i = 0; i < calls.size(); ++i) {
+            if (calls.at(i).startsWith(QLatin1String(start)))
+                return i;
+        }
+        return -1;
+    };
+    // Each is asked where its cell or button would be made.
+    QCOMPARE(at("modules.isOn(\"mdl_order\", \"mdl_order_algorithm3\")"), at("group.addButton(button600") + 1);
+    QCOMPARE(at("strip.addStretchWidget"), at("group.addButton(button600") + 2);
+    QVERIFY(at("modules.isOn(\"mdl_order\", \"mdl_order_stock_multi_market_price\")") < at("table.addComboBox(0x1,"));
+    QCOMPARE(at("modules.isOn(\"mdl_alg\""), at("table.addComboBox(0x2000,") + 1);
+    QCOMPARE(at("table.addComboBox(0x10000,"), at("table.addComboBox(0x2000,") + 2);
+    QVERIFY(at("modules.isOn(\"mdl_order\", \"mdl_order_command_remark\")") > at("table.addParamCell(0x2000000,"));
 }
 
 QTEST_MAIN(tst_ContractConstruction)

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void numberChangesLimitTheirCounterparts_data();
     void numberChangesLimitTheirCounterparts();
     void numberChangesOfAParameterSetAreNotHeard();
+    void numberChangesBeforeTheTableIsReadyLimitAlone();
     void textChangesAnnounceWithoutText_data();
     void textChangesAnnounceWithoutText();
     void doubleClickIsPassedOnAs130();
@@ -257,6 +258,16 @@ void tst_ContractEvents::eventsDuringConstructionAreNotHeard()
     QVERIFY(!panel.table.handleEvent(event, cell, 0, QStringLiteral("text"), &value));
 
     QCOMPARE(recorder::calls(recorder::kEverything), QStringList());
+}
+
+void tst_ContractEvents::numberChangesBeforeTheTableIsReadyLimitAlone()
+{
+    RecordedPanel panel;
+    panel.table.m_ready = false;
+
+    QVERIFY(!panel.table.sendEvent(87, 0x200));
+
+    QCOMPARE(recorder::calls(), lines("table.resetCellRange(0x400, 10000.0, 1000000.0)"));
 }
 
 QTEST_MAIN(tst_ContractEvents)

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void parameterSetClick_data();
     void parameterSetClick();
     void helpOfAPlainModeIsLeftAloneOnTablesWithTheirOwn();
+    void visibleCellsAreReadBeforeSavingWhileCollapsed();
+    void clicksBeforeTheTableIsReadyNeitherSaveNorAnnounce();
 };
 
 void tst_ContractModeClicks::init()
@@ -152,6 +154,37 @@ void tst_ContractModeClicks::helpOfAPlainModeIsLeftAloneOnTablesWithTheirOwn()
         panel.table.sendEvent(5, 601, {});
 
         QCOMPARE(recorder::calls().filter(QStringLiteral("group.setHelpButton")), QStringList());
+    }
+}
+
+void tst_ContractModeClicks::visibleCellsAreReadBeforeSavingWhileCollapsed()
+{
+    for (const int button : {602, 605}) {
+        RecordedPanel panel;
+        panel.table.sendEvent(5, button);
+        QCOMPARE(recorder::calls(recorder::Ask | recorder::Hook).mid(0, 2),
+                 lines("table.getVisibleItemIdSet()\n save()"));
+
+        panel.table.setExpandItemsHidden(false);
+        recorder::clear();
+        panel.table.sendEvent(5, button);
+        QCOMPARE(recorder::callsOf({QStringLiteral("table.getVisibleItemIdSet")}), QStringList());
+        QCOMPARE(recorder::calls(recorder::Hook), lines("save()\n reload()"));
+    }
+}
+
+void tst_ContractModeClicks::clicksBeforeTheTableIsReadyNeitherSaveNorAnnounce()
+{
+    for (const int button : {602, 605}) {
+        RecordedPanel panel;
+        panel.table.m_ready = false;
+
+        QVERIFY(panel.table.sendEvent(5, button));
+
+        QCOMPARE(recorder::calls(recorder::Hook), lines("reload()"));
+        QCOMPARE(recorder::calls(recorder::Send).filter(QStringLiteral("deliver(129, ")), QStringList());
+        QCOMPARE(recorder::calls(recorder::Send).first(),
+                 QStringLiteral("deliver(1064, 5, %1, \"\", null)").arg(button - 600));
     }
 }
 

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void securitiesLendingIsAskedForFirst();
     void listWithoutApplyTouchesNoCell();
     void listWithApplyRefillsTheCell();
+    void emptyListIsNotApplied();
     void securitiesLendingSellTouchesNoCellInTheList();
     void settingAPriceTypeSelectsAndShowsTheSuperPrice();
     void selectingAPriceCallsInOrder();
@@ -176,6 +177,18 @@ void tst_ContractPriceTypes::storedNameIsAnsweredWithoutAsking()
     QCOMPARE(panel.table.priceType(), ttservice::EPriceType(11));
 
     QCOMPARE(recorder::calls(recorder::kEverything), QStringList());
+}
+
+void tst_ContractPriceTypes::emptyListIsNotApplied()
+{
+    RecordedPanel panel(setupOf(35));
+    QStringList labels;
+    QVector<QVariant> values;
+
+    panel.table.doResetPriceType(labels, values, 0, 0, true, {});
+
+    QCOMPARE(labels, QStringList());
+    QCOMPARE(recorder::calls(), QStringList());
 }
 
 QTEST_MAIN(tst_ContractPriceTypes)

@@ -36,6 +36,53 @@ public:
     }
 };
 
+struct InertOperation
+{
+    const char* name;
+    void (*run)(GlobalTable&);
+};
+
+const ttservice::EOrderType kTypesAroundTheAlgorithms[] = {ttservice::EOrderType(3), ttservice::EOrderType(4),
+                                                           ttservice::EOrderType(104), ttservice::EOrderType(105)};
+
+void askAlgorithms(GlobalTable& table)
+{
+    for (const ttservice::EOrderType type : kTypesAroundTheAlgorithms)
+        table.getSingleNvAlgoUiParam(type);
+}
+
+void setAlgorithms(GlobalTable& table)
+{
+    for (const ttservice::EOrderType type : kTypesAroundTheAlgorithms)
+        table.setSingleNvAlgoParam(type, QStringLiteral("p"));
+}
+
+void takeRecord(GlobalTable& table)
+{
+    ttservice::COrderSetting setting;
+    table.setParam(setting);
+}
+
+// clang-format off
+constexpr InertOperation kInertOperations[] = {
+    {"setStockCode",              [](GlobalTable& t) { t.setStockCode(QStringLiteral("600000")); }},
+    {"getStockCode",              [](GlobalTable& t) { t.getStockCode(); }},
+    {"clear",                     [](GlobalTable& t) { t.clear(); }},
+    {"setParam with a text",      [](GlobalTable& t) { t.setParam(QStringLiteral("a^b^c=d^e=f=g^h")); }},
+    {"setParam with a record",    takeRecord},
+    {"param",                     [](GlobalTable& t) { t.param(); }},
+    {"save",                      [](GlobalTable& t) { t.save(); }},
+    {"saveParam",                 [](GlobalTable& t) { t.saveParam(); }},
+    {"reloadParam",               [](GlobalTable& t) { t.reloadParam(); }},
+    {"getOrderSettingParam",      [](GlobalTable& t) { t.getOrderSettingParam(); }},
+    {"getSingleNvAlgoUiParam",    askAlgorithms},
+    {"setSingleNvAlgoParam",      setAlgorithms},
+    {"getUiParamByTrdTradeParam", [](GlobalTable& t) { t.getUiParamByTrdTradeParam(ttservice::EOrderType(4), QStringLiteral("p")); }},
+    {"resetStrategyType",         [](GlobalTable& t) { t.resetStrategyType(ttservice::EOrderType(4), QStringLiteral("s")); }},
+    {"setNvAlgoHideAmountUsed",   [](GlobalTable& t) { t.setNvAlgoHideAmountUsed(true, 4); }},
+};
+// clang-format on
+
 } // namespace
 
 /// What the derived tables ask of the platform besides what their base asks.
@@ -50,6 +97,7 @@ private Q_SLOTS:
     void codeTablePassesItsFlagsInAnotherOrder();
     void codeTableNeverOffersTheAutomaticBook();
     void codeTableOperationsThatCallNothing();
+    void codeOfACodeTableRebuildsThePriceTypes();
     void codeTableSavesItsVisibleCellsWhileCollapsed();
     void stopLossTableIsBuiltExpanded();
     void stopLossTextsCallNothing();
@@ -62,45 +110,17 @@ void tst_ContractTables::init()
 
 void tst_ContractTables::globalTableOperationsThatCallNothing_data()
 {
-    using Operation = void (*)(GlobalTable&);
-    QTest::addColumn<void*>("operation");
-    const auto row = [](const char* name, Operation operation) {
-        QTest::newRow(name) << reinterpret_cast<void*>(operation);
-    };
-    row("setStockCode", [](GlobalTable& table) { table.setStockCode(QStringLiteral("600000")); });
-    row("getStockCode", [](GlobalTable& table) { table.getStockCode(); });
-    row("clear", [](GlobalTable& table) { table.clear(); });
-    row("setParam(text)", [](GlobalTable& table) { table.setParam(QStringLiteral("a^b^c=d^e=f=g^h")); });
-    row("setParam(record)", [](GlobalTable& table) {
-        ttservice::COrderSetting setting;
-        table.setParam(setting);
-    });
-    row("param", [](GlobalTable& table) { table.param(); });
-    row("save", [](GlobalTable& table) { table.save(); });
-    row("saveParam", [](GlobalTable& table) { table.saveParam(); });
-    row("reloadParam", [](GlobalTable& table) { table.reloadParam(); });
-    row("getOrderSettingParam", [](GlobalTable& table) { table.getOrderSettingParam(); });
-    row("getSingleNvAlgoUiParam", [](GlobalTable& table) {
-        for (const int type : {3, 4, 104, 105})
-            table.getSingleNvAlgoUiParam(ttservice::EOrderType(type));
-    });
-    row("setSingleNvAlgoParam", [](GlobalTable& table) {
-        for (const int type : {3, 4, 104, 105})
-            table.setSingleNvAlgoParam(ttservice::EOrderType(type), QStringLiteral("p"));
-    });
-    row("getUiParamByTrdTradeParam",
-        [](GlobalTable& table) { table.getUiParamByTrdTradeParam(ttservice::EOrderType(4), QStringLiteral("p")); });
-    row("resetStrategyType",
-        [](GlobalTable& table) { table.resetStrategyType(ttservice::EOrderType(4), QStringLiteral("s")); });
-    row("setNvAlgoHideAmountUsed", [](GlobalTable& table) { table.setNvAlgoHideAmountUsed(true, 4); });
+    QTest::addColumn<int>("row");
+    for (int i = 0; i < int(std::size(kInertOperations)); ++i)
+        QTest::newRow(kInertOperations[i].name) << i;
 }
 
 void tst_ContractTables::globalTableOperationsThatCallNothing()
 {
-    QFETCH(void*, operation);
+    QFETCH(int, row);
     GlobalTable table;
 
-    reinterpret_cast<void (*)(GlobalTable&)>(operation)(table);
+    kInertOperations[row].run(table);
 
     QCOMPARE(recorder::calls(recorder::kEverything), QStringList());
 }
@@ -191,6 +211,17 @@ void tst_ContractTables::stopLossTextsCallNothing()
     table.save();
 
     QCOMPARE(recorder::calls(recorder::kEverything), QStringList());
+}
+
+void tst_ContractTables::codeOfACodeTableRebuildsThePriceTypes()
+{
+    CodeTable table(9, true, true);
+    recorder::clear();
+
+    table.setStockCode(QStringLiteral("600000"));
+
+    QCOMPARE(recorder::calls(), lines("table.resetComboData(0x1, [], [], 0)\n table.setComboData(0x1, 13)"));
+    QCOMPARE(table.getStockCode(), QStringLiteral("600000"));
 }
 
 QTEST_MAIN(tst_ContractTables)

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void recomputingCallsInOrder();
     void expandedRecomputingCallsInOrder();
     void superPriceIsShownWithoutAnyFlag();
+    void tailVolumeIsShownForTheRemainingTargetAlone();
     void bitsOutsideTheCatalogueAreHiddenAndShownAsWell();
     void stripIsShownOrHiddenByTheIdentity_data();
     void stripIsShownOrHiddenByTheIdentity();
@@ -242,6 +243,20 @@ void tst_ContractVisibility::enablingIsPassedOn()
 
     QCOMPARE(recorder::calls(recorder::kEverything),
              lines("table.setAllItemEnable(false)\n table.setAllItemEnable(true)"));
+}
+
+void tst_ContractVisibility::tailVolumeIsShownForTheRemainingTargetAlone()
+{
+    RecordedPanel panel;
+    panel.table.m_orderType = ttservice::EOrderType(1);
+    for (const int volume : {0, 10, 11, 12}) {
+        panel.table.m_table->setComboData(0x10, volume);
+        recorder::clear();
+
+        panel.table.resetCellVisibilities();
+
+        QCOMPARE(recorder::calls(), cellVisibilities({1, false, kAlgorithmCells | (volume == 11 ? 0x40u : 0u), 0}));
+    }
 }
 
 QTEST_MAIN(tst_ContractVisibility)

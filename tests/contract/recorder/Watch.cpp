@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QTableView>
 
+#include <algorithm>
 #include <array>
 
 namespace recorder {
@@ -133,7 +134,10 @@ void look(Watched& one)
 
 void watch(QWidget* widget, const QString& name)
 {
-    watched().append({widget, name, valuesOf(*widget)});
+    QVector<Watched>& all = watched();
+    all.erase(std::remove_if(all.begin(), all.end(), [](const Watched& one) { return one.widget.isNull(); }),
+              all.end());
+    all.append({widget, name, valuesOf(*widget)});
 }
 
 QString watchedName(const QWidget* widget)
