@@ -9,6 +9,10 @@ namespace reference {
 /// The largest file that is read, in bytes.
 constexpr qint64 kLargestFile = 256 * 1024 * 1024;
 
+/// How many notes on a file name their line. Each line is found by a walk over the file: 100,000 walks would take for
+/// ever, and nobody reads so many.
+constexpr int kMostNotesPlaced = 20;
+
 /// Writes a file's report to the log: each error once until the file is good again, and its notes.
 void sayReport(const QString& path, const LoadReport& report);
 

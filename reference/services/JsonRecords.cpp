@@ -39,9 +39,7 @@ void JsonRecords::note(int record, const QString& field, const QString& what)
     if (m_noted.contains(what))
         return;
     m_noted.insert(what);
-    // Each place is looked up by a walk over the file: 100,000 of them would take for ever, and nobody reads so many.
-    constexpr int kMostPlaces = 20;
-    const bool isWorthPlace = m_report.notes.size() < kMostPlaces;
+    const bool isWorthPlace = m_report.notes.size() < kMostNotesPlaced;
     m_report.notes.append(placed(m_path, isWorthPlace ? line(record, field) : 0, what));
 }
 

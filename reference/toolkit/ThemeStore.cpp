@@ -130,7 +130,8 @@ void ThemeStore::checkKeys(const QByteArray& file, const QString& fileName, Them
         if (m_colors.count(key) != 0 || m_colors.empty())
             continue;
         colors.remove(key);
-        report.notes.append(reference::placed(fileName, lineOfKey(file, key, section),
+        const bool isWorthPlace = report.notes.size() < reference::kMostNotesPlaced;
+        report.notes.append(reference::placed(fileName, isWorthPlace ? lineOfKey(file, key, section) : 0,
                                               QStringLiteral("unknown key %1 is ignored").arg(reference::quoted(key))));
     }
     for (const auto& entry : m_colors) {
