@@ -13,8 +13,12 @@ ModeButton* ButtonsModel::find(int id)
 
 int ButtonsModel::add(int id, const std::string& text)
 {
-    if (find(id))
-        return -1;
+    if (ModeButton* present = find(id)) {
+        const bool nameless = present->text.empty();
+        if (nameless)
+            present->text = text;
+        return nameless ? static_cast<int>(present - buttons.data()) : -1;
+    }
     buttons.push_back({id, text});
     return static_cast<int>(buttons.size()) - 1;
 }

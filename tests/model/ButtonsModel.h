@@ -30,7 +30,7 @@ public:
     bool helpCritical = false;
 
     ModeButton* find(int id);
-    /// Its position, -1 for an ID that is there already.
+    /// Its position; names a button of that ID without a text, and answers -1 for one with a text.
     int add(int id, const std::string& text);
     int selected() const;
     void check(int id);

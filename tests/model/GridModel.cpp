@@ -99,9 +99,9 @@ double GridModel::itemDouble(int id) const
         return cell->value;
     case Kind::Combo:
         return cell->data().is_number() ? cell->data().get<double>() : 0;
-    case Kind::Line:
     case Kind::Text:
         return toDouble(cell->text);
+    case Kind::Line:
     case Kind::Period:
         break;
     }

@@ -75,7 +75,9 @@ std::optional<Difference> ModelRun::firstDifference(const Script& script)
     m_session.run({{"do", "reset"}});
     for (std::size_t index = 0; index < script.size(); ++index) {
         const bool wholeState = index + 1 == script.size() || (index + 1) % kWholeStateEvery == 0;
-        std::string what = compareStep(script.at(index), model, wholeState);
+        std::string what = compareStep(script.at(index), model);
+        if (what.empty())
+            what = compareObjects(model, wholeState);
         ++m_commands;
         if (!what.empty())
             return Difference{index, std::move(what)};
@@ -83,44 +85,57 @@ std::optional<Difference> ModelRun::firstDifference(const Script& script)
     return {};
 }
 
-std::string ModelRun::compareStep(const Command& command, SessionModel& model, bool wholeState)
+std::string ModelRun::compareStep(const Command& command, SessionModel& model)
 {
     const Answer expected = model.run(command.json);
     if (m_wrongFact)
         m_wrongFact(model);
     const Json actual = m_session.run(command.json);
     Json answer = {{"ok", expected.ok}};
-    if (expected.ok) {
+    if (expected.ok)
         answer["result"] = expected.result;
-        answer["events"] = expected.events;
-        answer["saves"] = expected.saves;
-        answer["reloads"] = expected.reloads;
-    }
+    answer["events"] = expected.events;
+    answer["saves"] = expected.saves;
+    answer["reloads"] = expected.reloads;
     std::string what = mismatch("answer", answer, actual);
-    if (!what.empty())
-        return actual.value("ok", false) ? what : what + " (" + actual.value("error", std::string()) + ")";
-    what = compareGetters(model);
-    return what.empty() && wholeState
-        ? mismatch("state", model.state(), replay::stateOf(m_session.object(QStringLiteral("t"))))
-        : what;
+    if (!what.empty() && actual.contains("error"))
+        what += " (" + actual.at("error").get<std::string>() + ")";
+    return what;
 }
 
-std::string ModelRun::compareGetters(SessionModel& model)
+std::string ModelRun::compareObjects(SessionModel& model, bool wholeState)
 {
-    QWidget* object = m_session.object(QStringLiteral("t"));
-    const GridModel* cells = model.grid();
-    if (!object || !cells)
-        return bool(object) == bool(cells) ? std::string() : "one of the two has no object";
-    if (const auto* table = qobject_cast<TC::COrderParamBaseTable*>(object)) {
-        const TableModel& expected = *model.table();
-        const Json order = {expected.orderType, expected.operationType, expected.priceType};
+    for (auto& [name, expected] : model.objects) {
+        QWidget* object = m_session.object(QString::fromStdString(name));
+        if (!object)
+            return name + " is gone";
+        std::string what = compareGetters(*object, expected);
+        if (what.empty() && wholeState)
+            what = compareState(*object, expected);
+        if (!what.empty())
+            return name + ": " + what;
+    }
+    return {};
+}
+
+std::string ModelRun::compareState(QWidget& object, ObjectModel& expected)
+{
+    const Json actual = replay::stateOf(&object);
+    std::string what = mismatch("state", expected.state(), actual);
+    return what.empty() && expected.table ? expected.table->layoutMismatch(actual) : what;
+}
+
+std::string ModelRun::compareGetters(QWidget& object, ObjectModel& expected)
+{
+    if (const auto* table = qobject_cast<TC::COrderParamBaseTable*>(&object)) {
+        const Json order = {expected.table->orderType, expected.table->operationType, expected.table->priceType};
         const Json actual = {static_cast<int>(table->orderType()), static_cast<int>(table->getOperationType()),
                              static_cast<int>(table->priceType())};
         if (order != actual)
             return mismatchAt("order, operation and price type", order, actual);
     }
-    auto* grid = object->findChild<WQ::CMultiParamsTable*>();
-    for (const Cell& cell : cells->cells) {
+    auto* grid = object.findChild<WQ::CMultiParamsTable*>();
+    for (const Cell& cell : expected.grid().cells) {
         const std::string text = grid->itemText(cell.id).toStdString();
         if (text != cell.shownText())
             return mismatchAt("text of cell " + std::to_string(cell.id), cell.shownText(), text);

@@ -9,6 +9,8 @@
 #include <optional>
 #include <string>
 
+class QWidget;
+
 namespace model {
 
 /// Where a script's run on the widgets is another than on the model.
@@ -37,8 +39,10 @@ public:
     }
 
 private:
-    std::string compareStep(const Command& command, SessionModel& model, bool wholeState);
-    std::string compareGetters(SessionModel& model);
+    std::string compareStep(const Command& command, SessionModel& model);
+    std::string compareObjects(SessionModel& model, bool wholeState);
+    std::string compareGetters(QWidget& object, ObjectModel& expected);
+    std::string compareState(QWidget& object, ObjectModel& expected);
 
     replay::Session m_session;
     WrongFact m_wrongFact;

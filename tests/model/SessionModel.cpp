@@ -1,5 +1,6 @@
 #include "model/SessionModel.h"
 
+#include <exception>
 #include <utility>
 
 namespace model {
@@ -21,11 +22,12 @@ Construction constructionOf(TableClass tableClass, const Json& args)
     const int broker = args.at(1).get<int>();
     switch (tableClass) {
     case TableClass::Code:
-        return {id, broker, args.at(4).get<bool>(), args.at(3).get<int>(), false};
+        return {id, broker, args.at(4).get<bool>(), args.at(3).get<int>(), false, args.at(2).get<bool>()};
     case TableClass::StopLoss:
-        return {id, broker, true, 1, false};
+        return {id, broker, true, 1, false, true};
     default:
-        return {id, broker, args.at(2).get<bool>(), args.at(4).get<int>(), args.at(5).get<bool>()};
+        return {
+            id, broker, args.at(2).get<bool>(), args.at(4).get<int>(), args.at(5).get<bool>(), args.at(3).get<bool>()};
     }
 }
 
@@ -35,26 +37,7 @@ bool takeOutcome(const EditOutcome& outcome, Json& result)
     return outcome.possible;
 }
 
-std::set<int> idsOf(const Json& list)
-{
-    return list.get<std::set<int>>();
-}
-
 } // namespace
-
-const GridModel* SessionModel::grid() const
-{
-    if (m_table)
-        return &m_table->grid;
-    return m_credit ? &m_credit->grid : nullptr;
-}
-
-Json SessionModel::state() const
-{
-    if (m_table)
-        return m_table->state();
-    return m_credit ? m_credit->state() : Json();
-}
 
 Answer SessionModel::run(const Json& command)
 {
@@ -62,7 +45,11 @@ Answer SessionModel::run(const Json& command)
     m_world.saves = 0;
     m_world.reloads = 0;
     Answer answer;
-    answer.ok = carryOut(command, answer.result);
+    try {
+        answer.ok = carryOut(command, answer.result);
+    } catch (const std::exception&) { // an operation that is none, or arguments that are not its own
+        answer.ok = false;
+    }
     answer.events = std::move(m_world.events);
     answer.saves = m_world.saves;
     answer.reloads = m_world.reloads;
@@ -80,15 +67,19 @@ bool SessionModel::carryOut(const Json& command, Json& result)
         m_world.clock = command.at("epoch").get<std::int64_t>();
     } else if (verb == "scale") {
         m_scale = command.at("value").get<double>();
-        if (m_credit)
-            m_credit->scale = m_scale;
+        for (auto& [name, object] : objects)
+            if (object.credit)
+                object.credit->scale = m_scale;
     } else if (verb == "hint") {
-        if (m_table)
-            m_table->call("slotShouldHintAlgorithm", Json::array({command.at("orderType"), command.at("hint")}));
+        for (auto& [name, object] : objects)
+            if (object.table)
+                object.table->hint(command.at("orderType").get<int>(), command.at("hint").get<bool>());
     } else if (verb == "new") {
         make(command);
-    } else {
-        return onObject(command, result);
+    } else if (verb == "delete") {
+        return objects.erase(command.at("on").get<std::string>()) > 0;
+    } else if (verb != "theme") {
+        return onObject(objects.at(command.at("on").get<std::string>()), verb, command, result);
     }
     return true;
 }
@@ -96,64 +87,64 @@ bool SessionModel::carryOut(const Json& command, Json& result)
 void SessionModel::make(const Json& command)
 {
     const std::string className = command.at("class").get<std::string>();
+    const std::string name = command.at("name").get<std::string>();
+    ObjectModel& object = objects[name];
     if (className == "CCreditParamTable" || className == "CreditProbe") {
-        m_credit = std::make_unique<CreditModel>(m_world);
-        m_credit->scale = m_scale;
+        object.credit = std::make_unique<CreditModel>(m_world);
+        object.credit->scale = m_scale;
         return;
     }
     const TableClass tableClass = classOf(className);
-    m_table = std::make_unique<TableModel>(m_world, tableClass, command.at("name").get<std::string>(),
-                                           constructionOf(tableClass, command.at("args")));
+    object.table =
+        std::make_unique<TableModel>(m_world, tableClass, name, constructionOf(tableClass, command.at("args")));
 }
 
-bool SessionModel::onObject(const Json& command, Json& result)
+bool SessionModel::onObject(ObjectModel& object, const std::string& verb, const Json& command, Json& result)
 {
-    if (command.at("do") == "grid") {
-        auto* cells = const_cast<GridModel*>(grid());
-        if (!cells)
-            return false;
-        result = callGrid(*cells, command.at("op").get<std::string>(), command.at("args"));
+    if (verb == "grid") {
+        result = callGrid(object.grid(), command.at("op").get<std::string>(), command.at("args"));
         return true;
     }
-    return m_table ? onTable(command, result) : m_credit && onCredit(command, result);
+    return object.table ? onTable(*object.table, verb, command, result)
+                        : onCredit(*object.credit, verb, command, result);
 }
 
-bool SessionModel::onTable(const Json& command, Json& result)
+bool SessionModel::onTable(TableModel& table, const std::string& verb, const Json& command, Json& result)
 {
-    const std::string& verb = command.at("do").get_ref<const std::string&>();
     if (verb == "call") {
-        result = m_table->call(command.at("op").get<std::string>(), command.at("args"));
-        return true;
-    }
-    if (verb == "edit")
-        return takeOutcome(m_table->edit(command), result);
-    if (verb == "click")
-        return m_table->click(command.at("button").get<int>());
-    if (verb == "filter")
-        return m_table->filter(idsOf(command.at("cells")));
-    if (verb == "filterReset")
-        return m_table->filterReset();
-    if (verb == "addButton") {
-        result = m_table->group.add(command.at("id").get<int>(), command.at("text").get<std::string>());
+        result = table.call(command.at("op").get<std::string>(), command.at("args"));
+    } else if (verb == "edit") {
+        return takeOutcome(table.edit(command), result);
+    } else if (verb == "click") {
+        return table.click(command.at("button").get<int>());
+    } else if (verb == "filter") {
+        return table.filter(command.at("cells").get<std::set<int>>());
+    } else if (verb == "filterReset") {
+        return table.filterReset();
+    } else if (verb == "addButton") {
+        result = table.group.add(command.at("id").get<int>(), command.at("text").get<std::string>());
         return result != -1;
+    } else if (verb == "show") {
+        table.show();
+    } else if (verb == "resize") {
+        table.resize();
+    } else if (verb == "event") {
+        const Json& args = command.at("args");
+        result = table.handleEvent(args.at(0).get<int>(), args.at(1).get<int>(), args.at(2).get<int>(),
+                                   args.at(3).get<std::string>(), command.value("data", Json()));
+    } else {
+        return false;
     }
-    const Json& args = command.at("args");
-    result = m_table->handleEvent(args.at(0).get<int>(), args.at(1).get<int>(), args.at(2).get<int>(),
-                                  args.at(3).get<std::string>(), command.value("data", Json()));
     return true;
 }
 
-bool SessionModel::onCredit(const Json& command, Json& result)
+bool SessionModel::onCredit(CreditModel& table, const std::string& verb, const Json& command, Json& result)
 {
-    const std::string& verb = command.at("do").get_ref<const std::string&>();
-    if (verb == "call") {
-        result = m_credit->call(command.at("op").get<std::string>(), command.at("args"));
-        return true;
-    }
-    if (verb == "edit")
-        return takeOutcome(m_credit->edit(command), result);
-    result = false;
-    return verb == "event";
+    if (verb == "call")
+        result = table.call(command.at("op").get<std::string>(), command.at("args"));
+    else if (verb == "edit")
+        return takeOutcome(table.edit(command), result);
+    return verb == "call" || verb == "show" || verb == "resize";
 }
 
 } // namespace model

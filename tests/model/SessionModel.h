@@ -3,7 +3,9 @@
 #include "model/CreditModel.h"
 #include "model/TableModel.h"
 
+#include <map>
 #include <memory>
+#include <string>
 
 namespace model {
 
@@ -17,36 +19,40 @@ struct Answer
     int reloads = 0;
 };
 
-/// The commands of a script carried out on the models. One object at a time, as the random scripts need.
+/// An object that a script has made: a table or a credit table.
+struct ObjectModel
+{
+    std::unique_ptr<TableModel> table;
+    std::unique_ptr<CreditModel> credit;
+
+    GridModel& grid()
+    {
+        return table ? table->grid : credit->grid;
+    }
+    Json state() const
+    {
+        return table ? table->state() : credit->state();
+    }
+};
+
+/// The commands of a script carried out on the models.
 class SessionModel
 {
 public:
     Answer run(const Json& command);
 
-    /// The object's state; null without one. Sizes in pixels are left out.
-    Json state() const;
-
-    TableModel* table()
-    {
-        return m_table.get();
-    }
-    CreditModel* credit()
-    {
-        return m_credit.get();
-    }
-    const GridModel* grid() const;
+    /// By name. States leave sizes in pixels out.
+    std::map<std::string, ObjectModel> objects;
 
 private:
     bool carryOut(const Json& command, Json& result);
-    bool onObject(const Json& command, Json& result);
-    bool onTable(const Json& command, Json& result);
-    bool onCredit(const Json& command, Json& result);
+    bool onObject(ObjectModel& object, const std::string& verb, const Json& command, Json& result);
+    bool onTable(TableModel& table, const std::string& verb, const Json& command, Json& result);
+    bool onCredit(CreditModel& table, const std::string& verb, const Json& command, Json& result);
     void make(const Json& command);
 
     World m_world;
     double m_scale = 1;
-    std::unique_ptr<TableModel> m_table;
-    std::unique_ptr<CreditModel> m_credit;
 };
 
 /// An operation of the cell table, as hosts call it.

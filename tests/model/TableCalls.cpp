@@ -87,8 +87,7 @@ Json getCurrentPriceTypeName(TableModel& table, const Json& /*args*/)
 
 Json slotShouldHintAlgorithm(TableModel& table, const Json& args)
 {
-    table.group.helpCritical = boolAt(args, 1);
-    table.hints[intAt(args, 0)] = boolAt(args, 1);
+    table.hint(intAt(args, 0), boolAt(args, 1));
     return nullptr;
 }
 
@@ -181,7 +180,7 @@ const std::unordered_map<std::string, Call> kCalls = {
     {"hideAlgTable", hideAlgTable},
     {"setVisibleByID", ORDERPARAM_DO(table.group.setVisible(intAt(args, 0), boolAt(args, 1)))},
     {"setVisibleByOrderType", setVisibleByOrderType},
-    {"handleScaleChanged", nothing},
+    {"handleScaleChanged", ORDERPARAM_DO(table.handleScaleChanged())},
     {"themeChanged", nothing},
 
     {"showOrderParamBtn", nothing},
@@ -231,7 +230,7 @@ const std::unordered_map<std::string, Call> kCalls = {
     {"getModifiedPriceByOptTypeForCalc",
      ORDERPARAM_CALL(jsonOf(table.priceForCalc(intAt(args, 0), boolAt(args, 1))))},
     {"getModifiedPriceByOptTypeForOrder", ORDERPARAM_CALL(kNoPrice)},
-    {"modPriceCell", ORDERPARAM_DO(table.resetSuperPriceShow())},
+    {"modPriceCell", ORDERPARAM_DO((table.fitHeight(), table.resetSuperPriceShow()))},
     {"resetTableByPriceType", ORDERPARAM_DO(table.resetTableByPriceType())},
     {"resetTriggerPriceSetting", resetTriggerPriceSetting},
 
@@ -245,6 +244,11 @@ const std::unordered_map<std::string, Call> kCalls = {
     {"updateCmdLog", ORDERPARAM_DO(table.updateCmdLog())},
     {"getCmdLog", ORDERPARAM_CALL(table.grid.itemText(0x4000000))},
 
+    {"fillOrderParam", ORDERPARAM_CALL(args.at(2))},
+    {"loadFromOrderParam", nothing},
+    {"getAlgParamsStr", empty},
+    {"loadOpParam", nothing},
+    {"saveOpParam", ORDERPARAM_CALL(args.at(1).is_null() ? Json() : settingOf(args.at(1)))},
     {"resetOrderParamSetting", savesOnly},
     {"changePriceType", ORDERPARAM_CALL((Json{{"result", true}, {"priceType", args.at(0)}}))},
     {"checkPriceLimit", ORDERPARAM_CALL((Json{{"result", true}, {"message", ""}}))},

@@ -17,6 +17,7 @@ struct Construction
     bool modeButtons = true;
     int trader = 0;
     bool autoBook = false;
+    bool fontScale = true;
 };
 
 /// Which class a table is of: what its save(), reloadParam(), setStockCode() and clear() do beyond the base's.
@@ -44,6 +45,12 @@ public:
 
     Json state() const;
 
+    /// Where a table's sizes contradict each other: how high the grid is, where it lies and how wide. Empty when
+    /// nowhere, or when nothing has laid them out since they changed.
+    std::string layoutMismatch(const Json& actual) const;
+    void show();
+    void resize();
+
     World& world;
     const TableClass tableClass;
     const std::string name;
@@ -64,6 +71,11 @@ public:
     bool expand = false;
     std::map<int, bool> hints;
     std::map<int, Json> settings;
+
+    bool isShown = false;
+    bool isLaidOut = false;
+    std::string fittedRows; ///< what the grid showed when its height was fixed
+    std::string placedRows; ///< and when it was laid out
 
     bool idIn(std::initializer_list<int> ids) const;
     bool brokerIn(std::initializer_list<int> brokers) const;
@@ -88,6 +100,10 @@ public:
     {
         grid.hidden = !show;
     }
+
+    void fitHeight();
+    void layOut();
+    void handleScaleChanged();
 
     // price types
     void appendFixedPrice(Entries& entries) const;
@@ -129,10 +145,12 @@ public:
     void plainMode(int button, const std::string& text);
     void parameterMode(int button, const std::string& text);
     void resetBtnType();
+    void hint(int type, bool critical);
     void updateCmdLog();
     Json transferTimePeriod(Json record) const;
 
 private:
+    std::string rows() const;
     void deliver(const PersonEvent& event);
 };
 

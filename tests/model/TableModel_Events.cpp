@@ -29,6 +29,7 @@ bool TableModel::handleEvent(int event, int a, int b, const std::string& text, c
         if (a == 0x10)
             grid.setItemHidden(0x40, data.at("variant") != 11);
         save();
+        fitHeight();
         world.hear(129, made.id, 0, text);
         return false;
     case 87:
@@ -56,12 +57,17 @@ bool TableModel::handleEvent(int event, int a, int b, const std::string& text, c
     case 124:
         saveVisibleFlag(expand);
         save();
+        fitHeight();
+        layOut();
         return false;
     case 248:
         if (orderType >= 0 && orderType <= 3)
             words.at(static_cast<std::size_t>(orderType)) = 0;
         resetCellVisibilities();
         return true;
+    case 1071:
+        layOut();
+        return false;
     case 249:
         return true;
     case 1213:
@@ -149,6 +155,12 @@ void TableModel::resetBtnType()
     group.check(first);
     paramIndex = orderType - 4;
     showCellArea(paramIndex < 0);
+}
+
+void TableModel::hint(int type, bool critical)
+{
+    group.helpCritical = critical;
+    hints[type] = critical;
 }
 
 void TableModel::deliver(const PersonEvent& event)

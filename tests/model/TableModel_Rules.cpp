@@ -92,6 +92,7 @@ void TableModel::resetCellVisibilities()
     grid.all = std::move(shown);
     grid.blacklist.clear();
     resetTableByPriceType();
+    fitHeight();
     setExpandItemsHidden(!expand);
 }
 
@@ -114,6 +115,8 @@ void TableModel::setExpandItemsHidden(bool hide)
             grid.setItemHidden(0x2000, hide);
     }
     resetSuperPriceShow();
+    fitHeight();
+    layOut();
 }
 
 void TableModel::loadVisibleFlag()

@@ -11,14 +11,23 @@ using model::Command;
 using model::Difference;
 using model::ModelRun;
 using model::Script;
+using model::SessionModel;
+using model::TableModel;
+using WrongFact = ModelRun::WrongFact;
 
 /// Nothing of what rapidcheck says on its way; a difference's report says it all.
 class Silence : public rc::detail::TestListener
 {
 public:
-    void onTestCaseFinished(const rc::detail::CaseDescription&) override {}
-    void onShrinkTried(const rc::detail::CaseDescription&, bool) override {}
-    void onTestFinished(const rc::detail::TestMetadata&, const rc::detail::TestResult&) override {}
+    void onTestCaseFinished(const rc::detail::CaseDescription&) override
+    {
+    }
+    void onShrinkTried(const rc::detail::CaseDescription&, bool) override
+    {
+    }
+    void onTestFinished(const rc::detail::TestMetadata&, const rc::detail::TestResult&) override
+    {
+    }
 };
 
 constexpr int kScriptLength = 120;
@@ -56,6 +65,14 @@ std::optional<std::pair<Script, Difference>> smallestDifference(ModelRun& run, c
     return smallest ? onlyWhatMatters(run, *smallest) : smallest;
 }
 
+WrongFact onTables(void (*spoil)(TableModel& table))
+{
+    return [spoil](SessionModel& session) {
+        for (auto& [name, object] : session.objects)
+            spoil(*object.table);
+    };
+}
+
 QByteArray asLines(const Script& script)
 {
     QByteArray lines;
@@ -90,11 +107,14 @@ std::uint64_t chosenSeed()
 
 } // namespace
 
+Q_DECLARE_METATYPE(WrongFact)
+
 class tst_RandomRuns : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void aWrongFactIsNoticedAndShrunkToAShortScript_data();
     void aWrongFactIsNoticedAndShrunkToAShortScript();
     void widgetsAndModelAgreeOnRandomCommands_data();
     void widgetsAndModelAgreeOnRandomCommands();
@@ -105,18 +125,44 @@ private:
     int m_differences = 0;
 };
 
+void tst_RandomRuns::aWrongFactIsNoticedAndShrunkToAShortScript_data()
+{
+    QTest::addColumn<QString>("className");
+    QTest::addColumn<WrongFact>("wrongFact");
+    const QString probe = QStringLiteral("BaseTableProbe");
+    QTest::newRow("a mask's bit") << probe << onTables([](TableModel& table) {
+        if (table.orderType == 2)
+            table.grid.setItemHidden(0x800, true);
+    });
+    QTest::newRow("a tail volume off by a lot") << probe << onTables([](TableModel& table) {
+        if (table.operationType == 1 && table.grid.itemUnit(0x40) == "股")
+            table.grid.setItemDouble(0x40, table.grid.itemDouble(0x40) + 100);
+    });
+    QTest::newRow("a visible word that is not kept") << probe << onTables([](TableModel& table) { table.words = {}; });
+    QTest::newRow("an original price that is not forgotten") << probe << onTables([](TableModel& table) {
+        if (table.originalPrice == model::kNoPrice)
+            table.originalPrice = 0.0;
+    });
+    QTest::newRow("a parameter set without its index")
+        << probe << onTables([](TableModel& table) { table.paramIndex = -1; });
+    QTest::newRow("a column as wide as any") << QStringLiteral("CreditProbe") << WrongFact([](SessionModel& session) {
+        for (auto& [name, object] : session.objects)
+            object.credit->columnWidth = 120;
+    });
+}
+
 void tst_RandomRuns::aWrongFactIsNoticedAndShrunkToAShortScript()
 {
-    ModelRun run([](model::SessionModel& session) {
-        if (session.table() && session.table()->orderType == 2)
-            session.table()->grid.setItemHidden(0x800, true);
-    });
-    const auto found = smallestDifference(run, "BaseTableProbe", 1, 200);
+    QFETCH(QString, className);
+    QFETCH(WrongFact, wrongFact);
+    ModelRun run(wrongFact);
+    const auto found = smallestDifference(run, className.toStdString(), 1, 400);
     QVERIFY(found.has_value());
-    QVERIFY2(found->first.size() <= 2, asLines(found->first).constData());
-    QVERIFY(run.firstDifference(found->first).has_value());
+    const QByteArray lines = asLines(found->first);
+    QVERIFY2(found->first.size() <= 7, lines.constData());
+    QVERIFY2(run.firstDifference(found->first).has_value(), lines.constData());
     ModelRun rightFacts;
-    QVERIFY(!rightFacts.firstDifference(found->first).has_value());
+    QVERIFY2(!rightFacts.firstDifference(found->first).has_value(), lines.constData());
 }
 
 void tst_RandomRuns::widgetsAndModelAgreeOnRandomCommands_data()

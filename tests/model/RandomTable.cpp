@@ -24,6 +24,13 @@ rc::Gen<Command> chosenFrom(std::vector<rc::Gen<Command>> gens)
     return rc::gen::join(rc::gen::elementOf(std::move(gens)));
 }
 
+rc::Gen<Json> taskRecord()
+{
+    return rc::gen::map(rc::gen::tuple(orderType(), wholeNumber()), [](const std::tuple<Json, Json>& values) {
+        return Json{{"orderType", std::get<0>(values)}, {"validTimeStart", std::get<1>(values)}, {"code", "600000"}};
+    });
+}
+
 rc::Gen<Command> setter()
 {
     return chosenFrom({
@@ -121,6 +128,14 @@ rc::Gen<Command> inert()
         call("doSetSingleNvAlgoUiParam", orderType(), text()),
         call("resetStrategyType", orderType(), text()),
         call("setTableUIByParams", wholeNumber()),
+        call("setInstrument", oneOf({nullptr, Json{{"code", "600000"}}})),
+        call("fillOrderParam", text(), wholeNumber(), taskRecord(), price()),
+        call("loadFromOrderParam", taskRecord(), boolean(), text()),
+        call("getAlgParamsStr", taskRecord()),
+        call("getAlgParamsStr", oneOf({Json::array()})),
+        call("loadOpParam", setting(), oneOf({0.001})),
+        call("loadOpParam", oneOf({nullptr}), oneOf({0.001})),
+        call("saveOpParam", text(), setting()),
     });
 }
 
@@ -152,13 +167,6 @@ rc::Gen<Command> probed()
         call("showAlgoHelpButton"),
         call("slotShouldHintAlgorithm", orderType(), boolean()),
         call("updateCurrentPriceTypeName"),
-    });
-}
-
-rc::Gen<Json> taskRecord()
-{
-    return rc::gen::map(rc::gen::tuple(orderType(), wholeNumber()), [](const std::tuple<Json, Json>& values) {
-        return Json{{"orderType", std::get<0>(values)}, {"validTimeStart", std::get<1>(values)}, {"code", "600000"}};
     });
 }
 
@@ -219,6 +227,24 @@ rc::Gen<Command> sentEvent()
         {command("event", {"args"}, eventArgs()), command("event", {"args"}, eventArgs()), changed, outside});
 }
 
+/// What is no command: it changes nothing.
+rc::Gen<Command> wrongCommand()
+{
+    const auto line = [](Json json) { return rc::gen::just(Command{std::move(json)}); };
+    return chosenFrom({
+        line({{"do", "nothing"}, {"on", "t"}}),
+        line({{"do", "call"}, {"on", "nobody"}, {"op", "orderType"}, {"args", Json::array()}}),
+        line({{"do", "call"}, {"on", "t"}, {"op", "noOperation"}, {"args", Json::array()}}),
+        line({{"do", "call"}, {"on", "t"}, {"op", "setOrderType"}, {"args", Json::array()}}),
+        line({{"do", "call"}, {"on", "t"}, {"op", "setOrderType"}, {"args", {"one"}}}),
+        line({{"do", "call"}, {"on", "t"}, {"op", "setFixedPrice"}, {"args", {nullptr}}}),
+        line({{"do", "grid"}, {"on", "t"}, {"op", "setItemText"}, {"args", {1}}}),
+        line({{"do", "edit"}, {"on", "t"}, {"cell", 4242}, {"value", 1}}),
+        line({{"do", "click"}, {"on", "t"}}),
+        line({{"do", "filter"}, {"on", "t"}, {"cells", Json::array()}}),
+    });
+}
+
 rc::Gen<Command> surroundings()
 {
     return chosenFrom({
@@ -239,39 +265,19 @@ rc::Gen<Command> surroundings()
             [](const std::tuple<Json, Json>& values) {
                 return Command{{{"do", "hint"}, {"orderType", std::get<0>(values)}, {"hint", std::get<1>(values)}}};
             }),
+        rc::gen::map(oneOf({1.0, 1.25, 3.0}),
+                     [](const Json& value) {
+                         return Command{{{"do", "scale"}, {"value", value}}};
+                     }),
+        rc::gen::map(oneOf({"light", "dark"}),
+                     [](const Json& name) {
+                         return Command{{{"do", "theme"}, {"name", name}}};
+                     }),
+        call("handleScaleChanged"),
+        command("resize", {"size"}, oneOf({Json::array({300, 200}), Json::array({300, 900}), Json::array({1, 1})})),
         command("addButton", {"id", "text"}, oneOf({601, 602, 603, 604, 605, 608, 611, 612, 613, 600, 599, 7}),
                 buttonText()),
     });
-}
-
-rc::Gen<Json> constructorArgs(const std::string& className)
-{
-    if (className == "CStopLossOrderParamTable") {
-        return rc::gen::map(rc::gen::tuple(identity(), broker()), [](const std::tuple<Json, Json>& values) {
-            return Json::array({std::get<0>(values), std::get<1>(values)});
-        });
-    }
-    const bool isCode = className == "CCodeOrderParamTable";
-    return rc::gen::map(rc::gen::tuple(identity(), broker(), boolean(), boolean(), trader(), boolean()),
-                        [isCode](const std::tuple<Json, Json, Json, Json, Json, Json>& values) {
-                            const auto& [id, type, strip, scale, desk, book] = values;
-                            return isCode ? Json::array({id, type, scale, desk, strip})
-                                          : Json::array({id, type, strip, scale, desk, book});
-                        });
-}
-
-rc::Gen<Script> making(const std::string& className)
-{
-    const bool isCredit = className == "CCreditParamTable" || className == "CreditProbe";
-    const auto args = isCredit ? oneOf({Json::array()}) : constructorArgs(className);
-    return rc::gen::map(rc::gen::tuple(modules(), oneOf({0, 0, 100, 101}), args),
-                        [className](const std::tuple<Json, Json, Json>& values) {
-                            const auto& [on, mode, made] = values;
-                            return Script{{{{"do", "modules"}, {"on", on}}},
-                                          {{{"do", "clientMode"}, {"value", mode}}},
-                                          {{{"do", "clock"}, {"epoch", 1763690000}}},
-                                          {{{"do", "new"}, {"class", className}, {"name", "t"}, {"args", made}}}};
-                        });
 }
 
 } // namespace
@@ -285,21 +291,10 @@ rc::Gen<Command> randomTableCommand(const std::string& className)
         {5, ownOperation(className)},
         {4, sentEvent()},
         {2, surroundings()},
+        {1, wrongCommand()},
         {3, randomGridCommand()},
         {9, randomPersonCommand()},
     });
-}
-
-rc::Gen<Script> randomScript(const std::string& className, int length)
-{
-    const bool isProbe = className == "CreditProbe";
-    const auto step =
-        isProbe || className == "CCreditParamTable" ? randomCreditCommand(isProbe) : randomTableCommand(className);
-    return rc::gen::map(rc::gen::pair(making(className), rc::gen::resize(length, rc::gen::container<Script>(step))),
-                        [](std::pair<Script, Script> parts) {
-                            parts.first.insert(parts.first.end(), parts.second.begin(), parts.second.end());
-                            return std::move(parts.first);
-                        });
 }
 
 } // namespace model
