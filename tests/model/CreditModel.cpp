@@ -236,11 +236,6 @@ std::string CreditModel::todayAvailable() const
     return "0";
 }
 
-bool CreditModel::handleEvent(int /*event*/, int /*id*/)
-{
-    return false;
-}
-
 EditOutcome CreditModel::edit(const Json& command)
 {
     return grid.edit(command, [this](const PersonEvent& event) {

@@ -15,7 +15,6 @@ public:
     explicit CreditModel(World& world);
 
     Json call(const std::string& operation, const Json& args);
-    bool handleEvent(int event, int id);
     EditOutcome edit(const Json& command);
     Json state() const;
 

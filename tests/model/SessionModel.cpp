@@ -144,7 +144,9 @@ bool SessionModel::onCredit(CreditModel& table, const std::string& verb, const J
         result = table.call(command.at("op").get<std::string>(), command.at("args"));
     else if (verb == "edit")
         return takeOutcome(table.edit(command), result);
-    return verb == "call" || verb == "show" || verb == "resize";
+    else if (verb == "event")
+        result = false; // the base's answer, whether the table acts on it or not
+    return verb == "call" || verb == "show" || verb == "resize" || verb == "event";
 }
 
 } // namespace model
