@@ -180,7 +180,7 @@ void CellInteraction::currentChanged(const QModelIndex& current, const QModelInd
 bool CellInteraction::edit(const QModelIndex& index, QAbstractItemView::EditTrigger trigger, QEvent* event)
 {
     CellItem* cell = m_table.model().cellAtRow(index.row());
-    const bool isComposed = event && event->type() == QEvent::InputMethod;
+    const bool isComposed = event && event->type() == QEvent::InputMethod && widget().isVisible();
     if (!cell || (trigger != QAbstractItemView::AllEditTriggers && !isComposed))
         return false;
     if (!activate(*cell))

@@ -161,6 +161,11 @@ bool CellInteraction::forwardKey(QKeyEvent& event)
 
 bool CellInteraction::keyPress(QKeyEvent* event)
 {
+    // A window hands its keys to what had the focus last, though that be hidden by now.
+    if (!widget().isVisible()) {
+        event->ignore();
+        return true;
+    }
     if (m_cell)
         return forwardKey(*event);
     if (m_footerFocus)

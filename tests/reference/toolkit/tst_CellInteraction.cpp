@@ -25,6 +25,7 @@ private Q_SLOTS:
     void keysThatReachTheTableAreTheEditors();
     void aKeyThatTheEditorHasNoUseForReachesTheHostOnce();
     void aComposedTextOpensTheLine();
+    void aHiddenTableTakesNoKeys();
     void programmaticChangesSendNothing();
     void noWidgetStandsBeforeAnEditorOpens();
     void theTableMayBeDeletedInAnyEvent_data();
@@ -174,6 +175,23 @@ void tst_CellInteraction::aComposedTextOpensTheLine()
     QApplication::sendEvent(m_panel->table, &composed);
     QVERIFY(m_panel->isEditing(Cell::Remark));
     QCOMPARE(m_panel->line()->text(), QStringLiteral("季度"));
+}
+
+void tst_CellInteraction::aHiddenTableTakesNoKeys()
+{
+    m_panel->focusRow(Cell::Combo);
+    m_panel->table->hide();
+    QTest::keyClick(m_panel->table.data(), Qt::Key_Space);
+    QTest::keyClick(m_panel->table.data(), Qt::Key_Return);
+    QVERIFY(!QApplication::activePopupWidget());
+    m_panel->table->show();
+    m_panel->focusRow(Cell::Remark);
+    m_panel->table->hide();
+    QTest::keyClick(m_panel->table.data(), Qt::Key_F2);
+    QInputMethodEvent composed(QStringLiteral("备"), {});
+    QCoreApplication::sendEvent(m_panel->table.data(), &composed);
+    m_panel->table->show();
+    QVERIFY(!m_panel->inner().rowState(m_panel->cell(Cell::Remark)).editing);
 }
 
 void tst_CellInteraction::programmaticChangesSendNothing()
