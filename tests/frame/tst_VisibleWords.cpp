@@ -35,6 +35,7 @@ private Q_SLOTS:
     void collapsedTableWithoutAWordShowsNoFilter();
     void emptyChoiceNeverOverwritesAWord();
     void choiceIsKeptByOrderType();
+    void aChoiceReplacesTheOneBefore();
     void orderTypesBeyond3KeepNoChoice();
     void skippedOrExpandedTablesKeepTheirChoice();
     void limitPriceLeavesAFilteredTableAgain();
@@ -77,6 +78,19 @@ void tst_VisibleWords::choiceIsKeptByOrderType()
     setOrderType(table, 2);
     QCOMPARE(idText(table.m_table->getVisibleItemIdSet()), QStringLiteral("0x2 0x400 0x4000000"));
     QCOMPARE(idText(shownCells(*table.m_table)), QStringLiteral("0x2"));
+}
+
+void tst_VisibleWords::aChoiceReplacesTheOneBefore()
+{
+    BaseTableProbe table;
+    for (int type = 0; type < 4; ++type) {
+        setOrderType(table, type);
+        table.m_table->setVisibleItemSet({0x1, 0x2, 0x4000000});
+        table.saveVisibleFlag(false);
+        table.m_table->setVisibleItemSet({0x2, 0x8});
+        table.saveVisibleFlag(false);
+        QCOMPARE(table.m_visibleFlags[std::size_t(type)], 0xAu);
+    }
 }
 
 void tst_VisibleWords::orderTypesBeyond3KeepNoChoice()
