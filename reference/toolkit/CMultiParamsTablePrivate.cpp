@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -20,6 +21,16 @@ namespace {
 double tableScale(bool fontScale)
 {
     return fontScale ? resources::scale() : 1.0;
+}
+
+// A header that gets a model makes itself a selection model and keeps it, connected to the model, when the table gives
+// it the one that all three share.
+void dropSpareSelections(const QTableView& table)
+{
+    for (QHeaderView* header : {table.horizontalHeader(), table.verticalHeader()}) {
+        const auto own = header->findChildren<QItemSelectionModel*>(QString(), Qt::FindDirectChildrenOnly);
+        qDeleteAll(own);
+    }
 }
 
 } // namespace
@@ -62,6 +73,7 @@ void CMultiParamsTablePrivate::setUpView()
     m_table->horizontalHeader()->disconnect(m_table);
     m_table->verticalHeader()->disconnect(m_table);
     m_table->setModel(m_model);
+    dropSpareSelections(*m_table);
     connectModel();
 }
 
