@@ -74,6 +74,7 @@ PopupList::PopupList(QWidget* owner, const QStringList& entries, int current, Ch
     setVerticalScrollBar(new SlimScrollBar(Qt::Vertical, keys::kRow, this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setCurrentIndex(m_model->index(std::max(0, current)));
+    owner->installEventFilter(this);
 }
 
 QSize PopupList::neededSize() const
@@ -158,6 +159,14 @@ bool PopupList::event(QEvent* event)
     if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
         painting::shieldFromStyleSheet(this);
     return handled;
+}
+
+// A window does not take the windows along that it owns.
+bool PopupList::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Hide)
+        close();
+    return QListView::eventFilter(watched, event);
 }
 
 } // namespace WQ

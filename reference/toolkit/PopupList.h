@@ -20,7 +20,7 @@ public:
     using Chosen = std::function<void(int)>;
 
     /// @p current is the marked entry, -1 for none. @p chosen is called with the entry's position when the list is
-    /// closed already, unless @p owner is gone by then.
+    /// closed already, unless @p owner is gone by then. The list closes when @p owner is hidden.
     PopupList(QWidget* owner, const QStringList& entries, int current, Chosen chosen);
 
     /// Opens below @p anchor, or above it where the screen ends; @p anchor is in global coordinates. Its right edge is
@@ -29,6 +29,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void theCellUnderTheMouseIsCopied();
     void allCellsAreCopied();
     void withoutCellsThereIsNothingToCopy();
+    void theListClosesWhenTheDialogIsHidden();
     void itHandlesNoEvent();
     void theApplicationsStyleSheetDoesNotShow();
 };
@@ -341,6 +342,23 @@ void CFloatWidgetTest::withoutCellsThereIsNothingToCopy()
     dialog.resize(300, 200);
     dialog.show();
     QCOMPARE(chosen(dialog, QPoint(150, 60), 0), QString());
+}
+
+void CFloatWidgetTest::theListClosesWhenTheDialogIsHidden()
+{
+    Dialog dialog(true, nullptr);
+    dialog.resize(300, 200);
+    auto* cell = new CParameterCell(0, QStringLiteral("    代码"), QString(), &dialog);
+    cell->setGeometry(20, 50, 200, 22);
+    dialog.show();
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(150, 150), dialog.mapToGlobal(QPoint(150, 150)));
+    QCoreApplication::sendEvent(&dialog, &asked);
+    const QPointer<QWidget> list = QApplication::activePopupWidget();
+    QVERIFY(list);
+    dialog.hide();
+    QVERIFY(!QApplication::activePopupWidget());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!list);
 }
 
 void CFloatWidgetTest::itHandlesNoEvent()
