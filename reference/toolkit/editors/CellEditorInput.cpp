@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QWheelEvent>
 
@@ -27,6 +28,13 @@ bool isOwnKey(const QKeyEvent& event)
     }
 }
 
+// Qt leaves the menu of a line open when the line is hidden.
+void closeMenus(const QObject& line)
+{
+    for (QMenu* menu : line.findChildren<QMenu*>())
+        menu->close();
+}
+
 } // namespace
 
 // Whatever the client does may take the table away, and the field with it.
@@ -50,6 +58,9 @@ bool CellEditor::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonDblClick:
         m_client.editorDoubleClicked();
         return !alive;
+    case QEvent::Hide:
+        closeMenus(*watched);
+        return false;
     default:
         return false;
     }

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aKeyThatTheEditorHasNoUseForReachesTheHostOnce();
     void aComposedTextOpensTheLine();
     void aHiddenTableTakesNoKeys();
+    void theMenuOfALineClosesWithTheTable();
     void programmaticChangesSendNothing();
     void noWidgetStandsBeforeAnEditorOpens();
     void theTableMayBeDeletedInAnyEvent_data();
@@ -192,6 +193,16 @@ void tst_CellInteraction::aHiddenTableTakesNoKeys()
     QCoreApplication::sendEvent(m_panel->table.data(), &composed);
     m_panel->table->show();
     QVERIFY(!m_panel->inner().rowState(m_panel->cell(Cell::Remark)).editing);
+}
+
+void tst_CellInteraction::theMenuOfALineClosesWithTheTable()
+{
+    m_panel->clickValue(Cell::Remark);
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), m_panel->line()->mapToGlobal(QPoint()));
+    QApplication::sendEvent(m_panel->line(), &asked);
+    QVERIFY(QApplication::activePopupWidget());
+    m_panel->table->hide();
+    QVERIFY(!QApplication::activePopupWidget());
 }
 
 void tst_CellInteraction::programmaticChangesSendNothing()
