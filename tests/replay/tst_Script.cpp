@@ -73,6 +73,12 @@ void tst_Script::malformedLinesAreAnsweredAndTheRunGoesOn_data()
     QTest::newRow("a comment after a blank") << QByteArray(" # no");
     QTest::newRow("a list of lists without end") << QByteArray(100000, '[');
     QTest::newRow("lists inside each other") << QByteArray(100000, '[') + QByteArray(100000, ']');
+    QTest::newRow("arguments inside each other")
+        << QByteArray("{\"do\":\"call\",\"args\":") + QByteArray(65, '[') + QByteArray(65, ']') + '}';
+    QByteArray keys;
+    for (int i = 0; i < 1001; ++i)
+        keys += ",\"" + QByteArray::number(i) + "\":0";
+    QTest::newRow("more keys than anything has") << QByteArray("{\"do\":\"reset\"") + keys + '}';
     QTest::newRow("a byte of nothing") << QByteArray("{\"do\":\"re\0set\"}", 15);
 }
 

@@ -1,6 +1,7 @@
 #include "replay/Session.h"
 
-#include <QFile>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
@@ -33,6 +34,24 @@ QByteArray text(const Json& json)
     return QByteArray::fromStdString(json.dump());
 }
 
+/// Counts what the whole application paints while it lives.
+class PaintCounter : public QObject
+{
+public:
+    PaintCounter()
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int paints = 0;
+};
+
 } // namespace
 
 class tst_Session : public QObject
@@ -53,8 +72,10 @@ private Q_SLOTS:
     void aWrongInputIsFalseAndKeepsTheValue();
     void whatNoPersonCouldDoIsWrong();
     void hiddenButtonsCannotBeClicked();
+    void aButtonWithoutTextTakesNoRoom();
     void aHostAddsCellsAndButtons();
     void showingAndResizingLeaveTheSizeGiven();
+    void whatIsShownIsPaintedBetweenTwoCommands();
     void aScreenshotIsAPicture();
     void aDialogsButtonExpandsItsTable();
     void aContractWithoutDataHasANullKey();
@@ -274,6 +295,28 @@ void tst_Session::hiddenButtonsCannotBeClicked()
     QVERIFY(!session.run(click)["ok"].get<bool>());
 }
 
+// Button 603 has no text on identity 38, the group shows none of it.
+void tst_Session::aButtonWithoutTextTakesNoRoom()
+{
+    Session session;
+    session.run({{"do", "modules"}, {"on", Json::array({"mdl_order/mdl_order_algorithm3"})}});
+    session.run({{"do", "new"},
+                 {"class", "BaseTableProbe"},
+                 {"name", "t"},
+                 {"args", Json::array({38, 1, true, true, -1, true})}});
+    const Json dumped = session.run(dump());
+    bool isThere = false;
+    for (const Json& button : dumped["result"]["buttons"]) {
+        if (button["id"].get<int>() != 603)
+            continue;
+        isThere = true;
+        QCOMPARE(button["text"].get<std::string>(), std::string());
+        QCOMPARE(button["hidden"].get<bool>(), true);
+    }
+    QVERIFY(isThere);
+    QVERIFY(!session.run({{"do", "click"}, {"on", "t"}, {"button", 603}})["ok"].get<bool>());
+}
+
 void tst_Session::aHostAddsCellsAndButtons()
 {
     Session session;
@@ -300,6 +343,17 @@ void tst_Session::showingAndResizingLeaveTheSizeGiven()
     QVERIFY(session.run({{"do", "show"}, {"on", "t"}})["ok"].get<bool>());
     QVERIFY(session.object(QStringLiteral("t"))->isVisible());
     QCOMPARE(session.object(QStringLiteral("t"))->size(), QSize(240, 500));
+}
+
+// What Qt posts for a shown widget would pile up in a long run.
+void tst_Session::whatIsShownIsPaintedBetweenTwoCommands()
+{
+    Session session;
+    session.run(newProbe());
+    session.run({{"do", "show"}, {"on", "t"}});
+    PaintCounter counter;
+    session.run(call("setOrderType", Json::array({1})));
+    QVERIFY(counter.paints > 0);
 }
 
 void tst_Session::aScreenshotIsAPicture()
