@@ -31,7 +31,7 @@ set(orderparam_arrows
     "records|marks"
     "platform|marks records"
     "reference|marks records platform"
-    "workbench|${orderparam_library} reference"
+    "workbench|${orderparam_library} reference replay"
     "replay|${orderparam_library} reference"
     "examples|${orderparam_library} reference"
     "benchmarks|${orderparam_library} reference"

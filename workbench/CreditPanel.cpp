@@ -1,10 +1,9 @@
 #include "workbench/CreditPanel.h"
 
+#include "workbench/HostCalls.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/NumberCombo.h"
 
-#include <OrderParamTable_mini/credit/CCreditParamTable.h>
-#include <WQ/CMultiParamsTable.h>
 #include <WQ/CUiResource.h>
 
 #include <boost/make_shared.hpp>
@@ -47,10 +46,10 @@ QString creditParam(int operation)
     return QStringLiteral("%1+%1-726=88005678-727=600000-728=3000-729=1200-730=250000-731=1200").arg(operation);
 }
 
-CreditPanel::CreditPanel(QWidget* parent)
+CreditPanel::CreditPanel(Recorder* recorder, QWidget* parent)
     : PanelHost(parent)
     , m_texts(new LanguageTexts(this))
-    , m_table(new TC::CCreditParamTable(this))
+    , m_table(makeTable(recorder))
     , m_operation(new NumberCombo(creditOperations(), ttservice::OPT_REPAY_SECURITIES_BY_BUYING))
     , m_account(new QLineEdit)
     , m_code(new QLineEdit(QStringLiteral("600000")))
@@ -68,6 +67,13 @@ CreditPanel::CreditPanel(QWidget* parent)
     layout->addWidget(m_answers);
     m_texts->keep([this] { showAnswers(); });
     fitTable();
+}
+
+TC::CCreditParamTable* CreditPanel::makeTable(Recorder* recorder)
+{
+    setRecorder(recorder);
+    return make<TC::CCreditParamTable>({"CCreditParamTable", "credit"},
+                                       [](QWidget* parent) { return new TC::CCreditParamTable(parent); });
 }
 
 QPushButton* CreditPanel::addEntry(QFormLayout* form, QLineEdit* edit, const char* label, const char* button)
@@ -107,11 +113,11 @@ void CreditPanel::createForm(QFormLayout* form)
     form->addRow(contract);
     connect(m_operation, &NumberCombo::valueChanged, this, &CreditPanel::setOperation);
     connect(select, &QPushButton::clicked, this, [this] {
-        m_table->setSelectAccount(m_account->text().toStdString());
+        hostCall(*m_table, calls::kSelectCreditAccount, m_account->text().toStdString());
         showAnswers();
     });
     connect(enter, &QPushButton::clicked, this, [this] {
-        m_table->setStockCode(m_code->text(), std::string(), false);
+        hostCall(*m_table, calls::kSetCreditCode, m_code->text(), std::string(), false);
         showAnswers();
     });
     connect(load, &QPushButton::clicked, this, [this] { applyParam(m_param->text()); });
@@ -127,7 +133,7 @@ void CreditPanel::setAccounts(const QStringList& accounts)
     for (const QString& account : accounts)
         values << account;
     m_account->setText(accounts.value(0));
-    cellTable->resetComboData(kAccountRow, accounts, values, accounts.isEmpty() ? -1 : 0);
+    hostCall(*cellTable, calls::kResetComboData, kAccountRow, accounts, values, accounts.isEmpty() ? -1 : 0);
     showAnswers();
 }
 
@@ -141,7 +147,7 @@ void CreditPanel::setOperation(int operation)
 
 void CreditPanel::applyParam(const QString& text)
 {
-    m_table->setParam(text);
+    hostCall(*m_table, calls::kSetCreditParam, text);
     fitTable();
     showAnswers();
 }
@@ -149,7 +155,7 @@ void CreditPanel::applyParam(const QString& text)
 void CreditPanel::chooseContract()
 {
     const auto contract = sampleContract();
-    m_table->setStkCompacts(contract, QString::number(contract->unrepaidVolume), false);
+    hostCall(*m_table, calls::kSetCreditContract, contract, QString::number(contract->unrepaidVolume), false);
     showAnswers();
 }
 
@@ -172,7 +178,7 @@ TC::CCreditParamTable* CreditPanel::table() const
 
 void CreditPanel::scaleTable()
 {
-    m_table->handleScaleChanged();
+    hostCall(*m_table, calls::kScaleCredit);
     fitTable();
 }
 

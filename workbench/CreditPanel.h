@@ -23,7 +23,8 @@ class CreditPanel : public PanelHost
 {
     Q_OBJECT
 public:
-    explicit CreditPanel(QWidget* parent = nullptr);
+    /// The table is made here, so the recorder comes along; it may be null.
+    explicit CreditPanel(Recorder* recorder = nullptr, QWidget* parent = nullptr);
 
     /// Offers the credit accounts; the table itself knows none.
     void setAccounts(const QStringList& accounts);
@@ -37,6 +38,7 @@ public:
     void scaleTable();
 
 private:
+    TC::CCreditParamTable* makeTable(Recorder* recorder);
     QPushButton* addEntry(QFormLayout* form, QLineEdit* edit, const char* label, const char* button);
     void createForm(QFormLayout* form);
     void applyParam(const QString& text);

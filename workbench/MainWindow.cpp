@@ -3,12 +3,16 @@
 #include "workbench/Appearance.h"
 #include "workbench/CreditPanel.h"
 #include "workbench/EventPanel.h"
+#include "workbench/FormScroll.h"
+#include "workbench/HostCalls.h"
 #include "workbench/Language.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/LookForm.h"
 #include "workbench/OrderControls.h"
 #include "workbench/QuoteLadder.h"
 #include "workbench/QuoteModel.h"
+#include "workbench/Recorder.h"
+#include "workbench/RecorderPanel.h"
 #include "workbench/SetupForm.h"
 #include "workbench/TableBench.h"
 #include "workbench/TaskPanel.h"
@@ -18,17 +22,13 @@
 #include "reference/services/ServiceControl.h"
 #include "reference/toolkit/Resources.h"
 
-#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 #include <TC/DataCenter.h>
 #include <WQ/Formatting.h>
 #include <ttservice/CAccountInfoV2.h>
 
 #include <QCoreApplication>
 #include <QDockWidget>
-#include <QEvent>
 #include <QHBoxLayout>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSet>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -55,48 +55,25 @@ QStringList creditAccounts()
     return ids;
 }
 
-/// Scrolls its form up and down only: it is never narrower than the form needs, at any scale or language.
-class FormScroll : public QScrollArea
-{
-public:
-    explicit FormScroll(QWidget* form)
-    {
-        setWidget(form);
-        setWidgetResizable(true);
-        setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    }
-
-    QSize minimumSizeHint() const override
-    {
-        const int bar = verticalScrollBar()->sizeHint().width();
-        return {widget()->minimumSizeHint().width() + bar, QScrollArea::minimumSizeHint().height()};
-    }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::LayoutRequest)
-            updateGeometry();
-        return QScrollArea::eventFilter(watched, event);
-    }
-};
-
 } // namespace
 
 MainWindow::MainWindow(HostData hostData, QWidget* parent)
     : QMainWindow(parent)
     , m_texts(new LanguageTexts(this))
+    , m_recorder(new Recorder(this))
     , m_bench(new TableBench)
     , m_form(new SetupForm)
     , m_look(new LookForm)
     , m_controls(new OrderControls)
     , m_events(new EventPanel)
     , m_tasks(new TaskPanel)
-    , m_credit(new CreditPanel)
+    , m_credit(new CreditPanel(m_recorder))
     , m_ladder(new QuoteLadder)
     , m_ticket(new TicketPanel)
+    , m_recorderPanel(new RecorderPanel(*m_recorder))
 {
+    m_bench->setRecorder(m_recorder);
+    m_tasks->setRecorder(m_recorder);
     setObjectName(QStringLiteral("workbench"));
     setDockNestingEnabled(true);
     createCentre();
@@ -164,6 +141,10 @@ void MainWindow::createDocks()
         addDock("ticketDock", QT_TRANSLATE_NOOP("workbench", "Ticket"), m_ticket, Qt::RightDockWidgetArea);
     const auto events =
         addDock("eventsDock", QT_TRANSLATE_NOOP("workbench", "Events"), m_events, Qt::BottomDockWidgetArea);
+    const auto recorder =
+        addDock("recorderDock", QT_TRANSLATE_NOOP("workbench", "Recorder"), m_recorderPanel, Qt::BottomDockWidgetArea);
+    tabifyDockWidget(events, recorder);
+    events->raise();
     tabifyDockWidget(controls, tasks);
     tabifyDockWidget(controls, credit);
     tabifyDockWidget(controls, ticket);
@@ -205,12 +186,12 @@ void MainWindow::connectLadder()
     });
     connect(m_ladder, &QuoteLadder::priceTypeChosen, this, [this](int priceType) {
         if (m_bench->table())
-            m_bench->table()->selectPrice(ttservice::EPriceType(priceType));
+            hostCall(*m_bench->table(), calls::kSelectPrice, ttservice::EPriceType(priceType));
         readTable();
     });
     connect(m_ladder, &QuoteLadder::priceChosen, this, [this](double price) {
         if (m_bench->table())
-            m_bench->table()->setFixedPrice(price);
+            hostCall(*m_bench->table(), calls::kSetFixedPrice, price);
         readTable();
     });
     connect(m_controls, &OrderControls::tableDriven, this, &MainWindow::readTable);
@@ -283,6 +264,16 @@ QuoteLadder* MainWindow::ladder() const
 TicketPanel* MainWindow::ticket() const
 {
     return m_ticket;
+}
+
+Recorder* MainWindow::recorder() const
+{
+    return m_recorder;
+}
+
+RecorderPanel* MainWindow::recorderPanel() const
+{
+    return m_recorderPanel;
 }
 
 } // namespace workbench

@@ -17,6 +17,8 @@ class LookForm;
 class OrderControls;
 class PanelHost;
 class QuoteLadder;
+class Recorder;
+class RecorderPanel;
 class SetupForm;
 class TableBench;
 class TaskPanel;
@@ -58,6 +60,8 @@ public:
     CreditPanel* credit() const;
     QuoteLadder* ladder() const;
     TicketPanel* ticket() const;
+    Recorder* recorder() const;
+    RecorderPanel* recorderPanel() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -81,11 +85,13 @@ private:
     void createScaleActions(QMenu* view);
     void createLanguageMenu(QMenu* view);
     void createEventMenu();
+    void createRecordingMenu();
     void createHelpMenu();
     void tickChoices();
     void showProblems(const QStringList& problems);
 
     LanguageTexts* m_texts;
+    Recorder* m_recorder;
     TableBench* m_bench;
     SetupForm* m_form;
     LookForm* m_look;
@@ -95,6 +101,7 @@ private:
     CreditPanel* m_credit;
     QuoteLadder* m_ladder;
     TicketPanel* m_ticket;
+    RecorderPanel* m_recorderPanel;
     QList<QDockWidget*> m_docks;
     QList<QAction*> m_choiceActions; ///< themes and languages, ticked as they are in force
 };

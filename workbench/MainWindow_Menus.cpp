@@ -4,6 +4,7 @@
 #include "workbench/Language.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/LookForm.h"
+#include "workbench/RecorderPanel.h"
 #include "workbench/TableBench.h"
 #include "workbench/Vocabulary.h"
 
@@ -43,6 +44,7 @@ void MainWindow::createMenus()
     createTableMenu();
     createViewMenu();
     createEventMenu();
+    createRecordingMenu();
     createHelpMenu();
     tickChoices();
 }
@@ -135,6 +137,13 @@ void MainWindow::createEventMenu()
     connect(filter, &QAction::triggered, m_events, &EventPanel::focusFilter);
     connect(copy, &QAction::triggered, m_events, &EventPanel::copy);
     connect(clear, &QAction::triggered, m_events, &EventPanel::clear);
+}
+
+void MainWindow::createRecordingMenu()
+{
+    QMenu* menu = addMenu(QT_TRANSLATE_NOOP("workbench", "Recordin&g"));
+    for (QAction* action : m_recorderPanel->actions())
+        menu->addAction(action);
 }
 
 void MainWindow::createHelpMenu()

@@ -1,10 +1,9 @@
 #include "workbench/OrderControls.h"
 
 #include "workbench/FlagsEditor.h"
+#include "workbench/HostCalls.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/NumberCombo.h"
-
-#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -95,7 +94,7 @@ void OrderControls::addPriceType()
     m_texts->keep([title] { title->setText(translated(QT_TRANSLATE_NOOP("workbench", "Price type (&k)"))); });
     connect(m_priceType, QOverload<int>::of(&QComboBox::activated), this, [this] {
         if (m_table)
-            m_table->setPriceType(ttservice::EPriceType(m_priceType->currentData().toInt()));
+            hostCall(*m_table, calls::kSetPriceType, ttservice::EPriceType(m_priceType->currentData().toInt()));
         Q_EMIT tableDriven();
     });
 }
@@ -111,7 +110,7 @@ void OrderControls::addCode()
             return;
         m_drive.code = m_code->text();
         if (m_table)
-            m_table->setStockCode(m_drive.code);
+            hostCall(*m_table, calls::kSetStockCode, m_drive.code);
         Q_EMIT tableDriven();
     });
 }
@@ -134,7 +133,7 @@ void OrderControls::addPrice()
     });
     connect(fix, &QPushButton::clicked, this, [this] {
         if (m_table)
-            m_table->setFixedPrice(m_price->value());
+            hostCall(*m_table, calls::kSetFixedPrice, m_price->value());
         Q_EMIT tableDriven();
     });
 }
@@ -149,30 +148,30 @@ void OrderControls::addAnswers()
 
 void OrderControls::connectControls()
 {
-    const auto apply = [this](auto call) {
+    const auto apply = [this](const auto& call, auto value) {
         if (m_table)
-            call(*m_table);
+            hostCall(*m_table, call, value);
         Q_EMIT tableDriven();
     };
     connect(m_orderType, &NumberCombo::valueChanged, this, [this, apply](int type) {
         m_drive.orderType = type;
-        apply([type](auto& table) { table.setOrderType(ttservice::EOrderType(type)); });
+        apply(calls::kSetOrderType, ttservice::EOrderType(type));
     });
     connect(m_operation, &NumberCombo::valueChanged, this, [this, apply](int operation) {
         m_drive.operationType = operation;
-        apply([operation](auto& table) { table.setOperationType(ttservice::EOperationType(operation)); });
+        apply(calls::kSetOperationType, ttservice::EOperationType(operation));
     });
     connect(m_flags, &FlagsEditor::flagsChanged, this, [this, apply](int flags) {
         m_drive.flags = flags;
-        apply([flags](auto& table) { table.setFlag(TC::OperationCellFlags(flags)); });
+        apply(calls::kSetFlag, TC::OperationCellFlags(flags));
     });
     connect(m_expanded, &QCheckBox::toggled, this, [this, apply](bool expanded) {
         m_drive.expanded = expanded;
-        apply([expanded](auto& table) { table.setExpandItemsHidden(!expanded); });
+        apply(calls::kSetExpandItemsHidden, !expanded);
     });
     connect(m_enabled, &QCheckBox::toggled, this, [this, apply](bool enabled) {
         m_drive.enabled = enabled;
-        apply([enabled](auto& table) { table.setAllItemEnable(enabled); });
+        apply(calls::kSetAllItemEnable, enabled);
     });
 }
 

@@ -1,8 +1,6 @@
 #include "workbench/TableBench.h"
 
-#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
-
-#include <WQ/CMultiParamsTable.h>
+#include "workbench/HostCalls.h"
 
 #include <QHBoxLayout>
 
@@ -20,9 +18,9 @@ TableBench::TableBench(QWidget* parent)
 void TableBench::rebuild(const TableSetup& setup, const TableDrive& drive)
 {
     const bool hadFocus = m_table && m_table->isAncestorOf(focusWidget());
-    delete m_table.data();
+    remove(m_table.data());
     m_setup = setup;
-    m_table = makeTable(setup, this);
+    m_table = makeTable(setup, *this);
     layout()->addWidget(m_table);
     driveTable(*m_table, drive);
     if (!m_table)
@@ -52,7 +50,7 @@ void TableBench::focusTable()
 void TableBench::scaleTable()
 {
     if (m_table)
-        m_table->handleScaleChanged();
+        hostCall(*m_table, calls::kScaleTable);
 }
 
 } // namespace workbench

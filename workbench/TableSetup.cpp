@@ -1,5 +1,6 @@
 #include "workbench/TableSetup.h"
 
+#include "workbench/HostCalls.h"
 #include "workbench/Vocabulary.h"
 
 #include <OrderParamTable_mini/tables/CCodeOrderParamTable.h>
@@ -46,20 +47,65 @@ void nameModeButton(WQ::CDropDownButtonGroup& group, int id, const QString& text
     }
 }
 
+/// Adds or names a button; the answer is its place in the group.
+replay::Json placeModeButton(WQ::CDropDownButtonGroup& group, int id, const QString& text)
+{
+    if (group.getButtonList().contains(id))
+        nameModeButton(group, id, text);
+    else
+        addModeButton(group, id, text);
+    group.resetLayout();
+    return group.getButtonList().indexOf(id);
+}
+
+/// The button of the third algorithm is the library's, where the feature module has it; the others are this host's.
+bool isOffered(WQ::CDropDownButtonGroup& group, int id)
+{
+    constexpr int kAlgorithmWithModule = TC::kModeButtonBase + ttservice::ORDER_TYPE_ALGORITHM_3;
+    return id != TC::kModeButtonBase && (id != kAlgorithmWithModule || group.getButtonList().contains(id));
+}
+
 void addHostButtons(TC::COrderParamBaseTable& table)
 {
     auto* group = table.findChild<WQ::CDropDownButtonGroup*>();
     if (!group || !group->getButtonList().contains(TC::kModeButtonBase))
         return;
-    const int algorithmWithModule = TC::kModeButtonBase + ttservice::ORDER_TYPE_ALGORITHM_3;
     for (const LabelledValue& row : modeButtons()) {
+        if (!isOffered(*group, row.value))
+            continue;
         const QString text = row.label.toString();
-        if (row.value == algorithmWithModule)
-            nameModeButton(*group, row.value, text);
-        else if (row.value != TC::kModeButtonBase)
-            addModeButton(*group, row.value, text);
+        replay::Json command = {{"do", "addButton"}, {"on", ""}, {"id", row.value}, {"text", text.toStdString()}};
+        carryOutAsHost(table, std::move(command), [&] { return placeModeButton(*group, row.value, text); });
     }
-    group->resetLayout();
+}
+
+/// The constructor's arguments in their order, the parent left out.
+replay::Json constructorArguments(const TableSetup& setup)
+{
+    using replay::Json;
+    switch (setup.tableClass) {
+    case TableClass::Global:
+        return Json::array(
+            {setup.identity, setup.brokerType, setup.modeButtons, setup.fontScale, setup.traderType, setup.autoBook});
+    case TableClass::Code:
+        return Json::array({setup.identity, setup.brokerType, setup.fontScale, setup.traderType, setup.modeButtons});
+    case TableClass::StopLoss:
+        return Json::array({setup.identity, setup.brokerType});
+    }
+    return Json::array();
+}
+
+const char* classNameOf(TableClass tableClass)
+{
+    switch (tableClass) {
+    case TableClass::Global:
+        return "CGlobalOrderParamTable";
+    case TableClass::Code:
+        return "CCodeOrderParamTable";
+    case TableClass::StopLoss:
+        return "CStopLossOrderParamTable";
+    }
+    return "";
 }
 
 TC::COrderParamBaseTable* constructTable(const TableSetup& setup, QWidget* parent)
@@ -81,11 +127,13 @@ TC::COrderParamBaseTable* constructTable(const TableSetup& setup, QWidget* paren
 
 } // namespace
 
-TC::COrderParamBaseTable* makeTable(const TableSetup& setup, QWidget* parent)
+TC::COrderParamBaseTable* makeTable(const TableSetup& setup, PanelHost& host)
 {
-    auto* table = constructTable(setup, parent);
+    auto* table =
+        host.make<TC::COrderParamBaseTable>({classNameOf(setup.tableClass), "panel", constructorArguments(setup)},
+                                            [&setup](QWidget* parent) { return constructTable(setup, parent); });
     addHostButtons(*table);
-    table->updateCmdLog();
+    hostCall(*table, calls::kUpdateCmdLog);
     return table;
 }
 
@@ -94,18 +142,18 @@ void driveTable(TC::COrderParamBaseTable& table, const TableDrive& drive)
     // A listener may delete the table in any event that these calls send.
     const QPointer<TC::COrderParamBaseTable> alive(&table);
     if (!drive.code.isEmpty())
-        table.setStockCode(drive.code);
+        hostCall(table, calls::kSetStockCode, drive.code);
     if (alive && drive.operationType)
-        table.setOperationType(ttservice::EOperationType(*drive.operationType));
+        hostCall(table, calls::kSetOperationType, ttservice::EOperationType(*drive.operationType));
     if (alive && drive.orderType)
-        table.setOrderType(ttservice::EOrderType(*drive.orderType));
+        hostCall(table, calls::kSetOrderType, ttservice::EOrderType(*drive.orderType));
     if (alive && drive.flags)
-        table.setFlag(TC::OperationCellFlags(*drive.flags));
+        hostCall(table, calls::kSetFlag, TC::OperationCellFlags(*drive.flags));
     // Collapsing also fits the height of a table that nothing was called on yet.
     if (alive)
-        table.setExpandItemsHidden(!drive.expanded);
+        hostCall(table, calls::kSetExpandItemsHidden, !drive.expanded);
     if (alive)
-        table.setAllItemEnable(drive.enabled);
+        hostCall(table, calls::kSetAllItemEnable, drive.enabled);
 }
 
 } // namespace workbench

@@ -4,13 +4,13 @@
 
 #include <optional>
 
-class QWidget;
-
 namespace TC {
 class COrderParamBaseTable;
 }
 
 namespace workbench {
+
+class PanelHost;
 
 enum class TableClass { Global, Code, StopLoss };
 
@@ -39,8 +39,8 @@ struct TableDrive
     bool enabled = true;
 };
 
-/// A new table, a child of @p parent, with this host's order-mode buttons and the remark cell where they belong.
-TC::COrderParamBaseTable* makeTable(const TableSetup& setup, QWidget* parent);
+/// A new table, a child of @p host, with this host's order-mode buttons and the remark cell where they belong.
+TC::COrderParamBaseTable* makeTable(const TableSetup& setup, PanelHost& host);
 
 /// Applies the drive in the order of its members: later calls build on what earlier ones left.
 void driveTable(TC::COrderParamBaseTable& table, const TableDrive& drive);

@@ -72,12 +72,29 @@ void TaskPanel::openTask(int row)
 {
     if (row < 0 || row >= m_model->rowCount())
         return;
-    makeTaskDialog(m_model->task(row), m_trader->value(), m_autoBook->isChecked(), this)->show();
+    PanelHost& host = makeDialogHost();
+    const std::string name = "task" + std::to_string(++m_opened);
+    show(makeTaskDialog(host, name, m_model->task(row), m_trader->value(), m_autoBook->isChecked()), host);
 }
 
 void TaskPanel::openBasket()
 {
-    makeBasketDialog(selectedTasks(), this)->show();
+    PanelHost& host = makeDialogHost();
+    show(makeBasketDialog(host, "basket" + std::to_string(++m_opened), selectedTasks()), host);
+}
+
+PanelHost& TaskPanel::makeDialogHost()
+{
+    auto* host = new PanelHost(this);
+    host->setRecorder(recorder());
+    host->hide(); // for good: it only hears, and would lie over the list otherwise
+    return *host;
+}
+
+void TaskPanel::show(QWidget* dialog, PanelHost& host) const
+{
+    connect(dialog, &QObject::destroyed, &host, &QObject::deleteLater);
+    dialog->show();
 }
 
 std::vector<ttservice::CCodeOrderParam> TaskPanel::selectedTasks() const

@@ -16,7 +16,8 @@ class LanguageTexts;
 class NumberCombo;
 class TaskModel;
 
-/// The task list: a double-click or Enter opens the task's dialog. It hears the dialogs' events as their ancestor.
+/// The task list: a double-click or Enter opens the task's dialog. Each dialog stands under a host of its own, so that
+/// its events are told from those of others; they climb on to here.
 class TaskPanel : public PanelHost
 {
     Q_OBJECT
@@ -35,6 +36,8 @@ public:
 private:
     void createView(QVBoxLayout* layout);
     void createBar(QVBoxLayout* layout);
+    PanelHost& makeDialogHost();
+    void show(QWidget* dialog, PanelHost& host) const;
     std::vector<ttservice::CCodeOrderParam> selectedTasks() const;
 
     TaskModel* m_model;
@@ -42,6 +45,7 @@ private:
     NumberCombo* m_trader;
     QCheckBox* m_autoBook;
     LanguageTexts* m_texts;
+    int m_opened = 0; ///< dialogs so far
 };
 
 } // namespace workbench

@@ -1,10 +1,9 @@
 #include "workbench/TicketReading.h"
 
+#include "workbench/HostCalls.h"
 #include "workbench/Vocabulary.h"
 
 #include <OrderParamTable_mini/tables/CGlobalOrderParamTable.h>
-
-#include <WQ/CMultiParamsTable.h>
 
 #include <QCoreApplication>
 
@@ -67,7 +66,7 @@ void storeDefaultRecords(TC::COrderParamBaseTable& table, int traderType)
         const auto type = ttservice::EOrderType(button.value - TC::kModeButtonBase);
         ttservice::COrderSetting record = TC::COrderParamBaseTable::getDefaultOrderSetting(
             table.getOperationType(), ttservice::ENvTraderType(traderType), type);
-        table.setOrderSettings(type, record);
+        hostCall(table, calls::kSetOrderSettings, int(type), record);
     }
 }
 
@@ -77,6 +76,7 @@ void updateRecord(TC::COrderParamBaseTable& table)
     if (!global)
         return;
     ttservice::COrderSetting record = table.getOrderSettings(table.orderType());
+    const QString before = TC::COrderParamBaseTable::orderSetting2Param(record);
     ttservice::CCodeOrderParam task;
     task.orderType = table.orderType();
     task.validTimeStart = record.validTimeStart;
@@ -85,7 +85,9 @@ void updateRecord(TC::COrderParamBaseTable& table)
     record.orderType = table.orderType();
     record.validTimeStart = task.validTimeStart;
     record.validTimeEnd = task.validTimeEnd;
-    table.setOrderSettings(table.orderType(), record);
+    // It is read after each event, and most change nothing of it.
+    if (TC::COrderParamBaseTable::orderSetting2Param(record) != before)
+        hostCall(table, calls::kSetOrderSettings, int(table.orderType()), record);
 }
 
 QString recordText(TC::COrderParamBaseTable& table)

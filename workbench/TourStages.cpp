@@ -1,8 +1,10 @@
 #include "workbench/TourStages.h"
 
 #include "workbench/CreditPanel.h"
+#include "workbench/HostCalls.h"
 #include "workbench/MainWindow.h"
 #include "workbench/PanelStates.h"
+#include "workbench/Recorder.h"
 #include "workbench/Snapshot.h"
 #include "workbench/TableBench.h"
 #include "workbench/TaskDialogs.h"
@@ -10,9 +12,6 @@
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
-#include <OrderParamTable_mini/credit/CCreditParamTable.h>
-#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
-#include <WQ/CMultiParamsTable.h>
 #include <WQ/CPushButton.h>
 
 #include <boost/make_shared.hpp>
@@ -61,7 +60,7 @@ ttservice::CCodeOrderParam sampleTask(const TaskStop& stop)
 }
 
 /// A dialog deletes itself when closed; on stage it belongs to the tour.
-Stage shown(std::unique_ptr<QWidget> window, qreal pixelRatio)
+Stage shown(std::unique_ptr<QWidget> window, qreal pixelRatio, std::unique_ptr<QWidget> host = nullptr)
 {
     window->setAttribute(Qt::WA_DeleteOnClose, false);
     window->move(0, 0);
@@ -71,7 +70,7 @@ Stage shown(std::unique_ptr<QWidget> window, qreal pixelRatio)
     // At rest nothing has the focus; a state that needs it takes it.
     if (QWidget* focus = QApplication::focusWidget())
         focus->clearFocus();
-    return {std::move(window), pixelRatio};
+    return {std::move(host), std::move(window), pixelRatio};
 }
 
 } // namespace
@@ -98,9 +97,10 @@ Stage stagePanel(const PanelStop& stop)
 
 Stage stageTask(const TaskStop& stop)
 {
-    std::unique_ptr<QWidget> dialog(makeTaskDialog(sampleTask(stop), stop.traderType, false, nullptr));
+    auto host = std::make_unique<PanelHost>();
+    std::unique_ptr<QWidget> dialog(makeTaskDialog(*host, "task", sampleTask(stop), stop.traderType, false));
     // The dialogs keep their size at every UI scale: their picture grows by its pixels instead.
-    Stage stage = shown(std::move(dialog), WQ::resources::scale());
+    Stage stage = shown(std::move(dialog), WQ::resources::scale(), std::move(host));
     if (!stop.expanded)
         return stage;
     for (auto* button : stage.window->findChildren<WQ::CPushButton*>())
@@ -112,8 +112,9 @@ Stage stageTask(const TaskStop& stop)
 
 Stage stageBasket()
 {
-    std::unique_ptr<QWidget> dialog(makeBasketDialog(std::vector<ttservice::CCodeOrderParam>(3), nullptr));
-    return shown(std::move(dialog), WQ::resources::scale());
+    auto host = std::make_unique<PanelHost>();
+    std::unique_ptr<QWidget> dialog(makeBasketDialog(*host, "basket", std::vector<ttservice::CCodeOrderParam>(3)));
+    return shown(std::move(dialog), WQ::resources::scale(), std::move(host));
 }
 
 Stage stageCredit(const CreditStop& stop)
@@ -124,9 +125,10 @@ Stage stageCredit(const CreditStop& stop)
     auto* table = new TC::CCreditParamTable;
     layout->addWidget(table);
     auto* cells = table->findChild<WQ::CMultiParamsTable*>();
-    cells->resetComboData(726, {QStringLiteral("8800 5678")}, {QStringLiteral("88005678")}, 0);
+    hostCall(*cells, calls::kResetComboData, 726, QStringList{QStringLiteral("8800 5678")},
+             QVector<QVariant>{QStringLiteral("88005678")}, 0);
     if (stop.operation >= 0)
-        table->setParam(creditParam(stop.operation));
+        hostCall(*table, calls::kSetCreditParam, creditParam(stop.operation));
     table->setFixedSize(WQ::resources::size(WQ::keys::kPanelWidth, WQ::resources::scale()), table->realHeight());
     return shown(std::move(host), 1.0);
 }
@@ -143,11 +145,13 @@ Stage stageWindow(const WindowStop& stop, const HostData& data)
     settle();
     if (stop.orderType < 0)
         return stage;
+    if (QLatin1String(stop.dock) == QLatin1String("recorderDock"))
+        workbench.recorder()->start();
     TC::COrderParamBaseTable* table = workbench.bench()->table();
-    table->setOrderType(ttservice::EOrderType(stop.orderType));
-    table->setExpandItemsHidden(false);
-    table->selectPrice(ttservice::PRTP_BUY1);
-    table->setFixedPrice(10.23);
+    hostCall(*table, calls::kSetOrderType, ttservice::EOrderType(stop.orderType));
+    hostCall(*table, calls::kSetExpandItemsHidden, false);
+    hostCall(*table, calls::kSelectPrice, ttservice::PRTP_BUY1);
+    hostCall(*table, calls::kSetFixedPrice, 10.23);
     settle();
     return stage;
 }

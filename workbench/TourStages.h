@@ -12,6 +12,7 @@ namespace workbench {
 /// What a picture is taken of.
 struct Stage
 {
+    std::unique_ptr<QWidget> host; ///< above the window, which goes first; null for a window without one
     std::unique_ptr<QWidget> window;
     qreal pixelRatio = 1.0;
 };

@@ -63,11 +63,13 @@ constexpr std::array kCreditStops = {
 };
 
 constexpr std::array kWindowStops = {
-    WindowStop{"window-en",     "en",    "controlsDock", 1,  1180, 760},
-    WindowStop{"window-zh",     "zh_CN", "controlsDock", 1,  1180, 760},
-    WindowStop{"window-tasks",  "en",    "tasksDock",    1,  1180, 760},
-    WindowStop{"window-credit", "zh_CN", "creditDock",   1,  1180, 760},
-    WindowStop{"window-small",  "en",    "controlsDock", -1, 1024, 700},
+    WindowStop{"window-en",             "en",    "controlsDock", 1,  1180, 760},
+    WindowStop{"window-zh",             "zh_CN", "controlsDock", 1,  1180, 760},
+    WindowStop{"window-tasks",          "en",    "tasksDock",    1,  1180, 760},
+    WindowStop{"window-credit",         "zh_CN", "creditDock",   1,  1180, 760},
+    WindowStop{"window-small",          "en",    "controlsDock", -1, 1024, 700},
+    WindowStop{"window-recorder",       "en",    "recorderDock", 1,  1180, 760},
+    WindowStop{"window-recorder-small", "zh_CN", "recorderDock", 1,  1024, 700},
 };
 
 // clang-format on

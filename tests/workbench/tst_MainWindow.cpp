@@ -2,6 +2,7 @@
 #include "workbench/CreditPanel.h"
 #include "workbench/EventLogModel.h"
 #include "workbench/EventPanel.h"
+#include "workbench/HostCalls.h"
 #include "workbench/Language.h"
 #include "workbench/MainWindow.h"
 #include "workbench/SetupForm.h"
@@ -11,12 +12,8 @@
 #include "reference/services/ServiceControl.h"
 #include "reference/toolkit/Resources.h"
 
-#include <OrderParamTable_mini/credit/CCreditParamTable.h>
-#include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 #include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
 #include <OrderParamTable_mini/tables/CHpfBasketTaskParamWidget.h>
-
-#include <WQ/CMultiParamsTable.h>
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -111,7 +108,7 @@ void tst_MainWindow::eventsOfEveryPanelArrive()
     MainWindow window({});
     EventLogModel* log = window.events()->model();
     log->clear();
-    window.bench()->table()->setFixedPrice(10.0);
+    hostCall(*window.bench()->table(), calls::kSetFixedPrice, 10.0);
     const int fromTable = log->rowCount();
     QVERIFY(fromTable > 0);
     window.credit()->setOperation(24);

@@ -17,5 +17,26 @@
             <numerusform>Basket of %n tasks</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Recording: %n step(s).</source>
+        <translation>
+            <numerusform>Recording: %n step.</numerusform>
+            <numerusform>Recording: %n steps.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n step(s).</source>
+        <translation>
+            <numerusform>%n step.</numerusform>
+            <numerusform>%n steps.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n step(s) answered otherwise.</source>
+        <translation>
+            <numerusform>%n step answered otherwise.</numerusform>
+            <numerusform>%n steps answered otherwise.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

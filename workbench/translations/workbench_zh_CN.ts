@@ -731,5 +731,195 @@ A host for every table and dialog of the library.</source>
         <source>Select</source>
         <translation>选择</translation>
     </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>is no UTF-8 text</source>
+        <translation>不是 UTF-8 文本</translation>
+    </message>
+    <message>
+        <source>is no JSON</source>
+        <translation>不是 JSON</translation>
+    </message>
+    <message>
+        <source>nests too deep</source>
+        <translation>嵌套过深</translation>
+    </message>
+    <message>
+        <source>is no command: an object with &quot;do&quot; is expected</source>
+        <translation>不是命令：应为带“do”的对象</translation>
+    </message>
+    <message>
+        <source>is no answer: an object is expected</source>
+        <translation>不是应答：应为对象</translation>
+    </message>
+    <message>
+        <source>answers and commands differ in number</source>
+        <translation>应答与命令的数目不同</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>The replay program %1 cannot be started.</source>
+        <translation>无法启动回放程序 %1。</translation>
+    </message>
+    <message>
+        <source>The replay program answers what is no answer: %1</source>
+        <translation>回放程序的应答无效：%1</translation>
+    </message>
+    <message>
+        <source>The replay program ended at step %1. %2</source>
+        <translation>回放程序在第 %1 步结束。%2</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>单步</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <translation>听到的事件</translation>
+    </message>
+    <message>
+        <source>Replayed</source>
+        <translation>回放结果</translation>
+    </message>
+    <message>
+        <source>error: %1</source>
+        <translation>错误：%1</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>differs: %1</source>
+        <translation>不同：%1</translation>
+    </message>
+    <message>
+        <source>What the replayed object looks like</source>
+        <translation>回放对象的画面</translation>
+    </message>
+    <message>
+        <source>Replay: step %1 of %2</source>
+        <translation>回放：第 %1 步，共 %2 步</translation>
+    </message>
+    <message>
+        <source>Replay scripts (*.jsonl)</source>
+        <translation>回放脚本 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Recorded steps</source>
+        <translation>录制的步骤</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>录制</translation>
+    </message>
+    <message>
+        <source>Record from here on; the way to the present situation comes first</source>
+        <translation>从此处开始录制；到达当前状态的步骤列在最前</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>End the recording or the replay</source>
+        <translation>结束录制或回放</translation>
+    </message>
+    <message>
+        <source>Replay the next step, beside the live panels</source>
+        <translation>回放下一步，不影响当前面板</translation>
+    </message>
+    <message>
+        <source>Replay</source>
+        <translation>回放</translation>
+    </message>
+    <message>
+        <source>Replay all steps that are left, beside the live panels</source>
+        <translation>回放剩余的全部步骤，不影响当前面板</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>Save the script, and what was heard beside it</source>
+        <translation>保存脚本，听到的事件另存于旁</translation>
+    </message>
+    <message>
+        <source>Load…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Load a script, with what is expected when that stands beside it</source>
+        <translation>打开脚本；旁边有预期时一并读取</translation>
+    </message>
+    <message>
+        <source>Copy as replay script</source>
+        <translation>复制为回放脚本</translation>
+    </message>
+    <message>
+        <source>Copy the commands for orderparam-replay</source>
+        <translation>复制供 orderparam-replay 使用的命令</translation>
+    </message>
+    <message>
+        <source>Copy as test</source>
+        <translation>复制为测试</translation>
+    </message>
+    <message>
+        <source>Copy what writes the script and its expectations into the current folder</source>
+        <translation>复制一段命令，把脚本及其预期写入当前文件夹</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>录制</translation>
+    </message>
+    <message>
+        <source>Recordin&amp;g</source>
+        <translation>录制(&amp;G)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording: %n step(s).</source>
+        <translation>
+            <numerusform>正在录制：%n 步。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n step(s).</source>
+        <translation>
+            <numerusform>%n 步。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n step(s) answered otherwise.</source>
+        <translation>
+            <numerusform>%n 步应答不同。</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>
