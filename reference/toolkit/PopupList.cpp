@@ -92,6 +92,11 @@ QSize PopupList::neededSize() const
 
 void PopupList::open(const QRect& anchor)
 {
+    // A key may reach a button that is hidden by now: a window hands its keys to what had the focus last.
+    if (!parentWidget()->isVisible()) {
+        deleteLater();
+        return;
+    }
     const QScreen* on = parentWidget()->screen();
     const QRect room = on ? on->availableGeometry() : QRect(QPoint(), neededSize());
     const QSize size = neededSize().boundedTo(room.size());

@@ -100,6 +100,7 @@ private Q_SLOTS:
     void allCellsAreCopied();
     void withoutCellsThereIsNothingToCopy();
     void theListClosesWhenTheDialogIsHidden();
+    void noListOpensOverAHiddenDialog();
     void itHandlesNoEvent();
     void theApplicationsStyleSheetDoesNotShow();
 };
@@ -359,6 +360,17 @@ void CFloatWidgetTest::theListClosesWhenTheDialogIsHidden()
     QVERIFY(!QApplication::activePopupWidget());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!list);
+}
+
+void CFloatWidgetTest::noListOpensOverAHiddenDialog()
+{
+    Dialog dialog(true, nullptr);
+    auto* list = new PopupList(&dialog, {QStringLiteral("全部复制")}, -1, [](int) {});
+    list->open(QRect());
+    QVERIFY(!QApplication::activePopupWidget());
+    const QPointer<PopupList> gone(list);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!gone);
 }
 
 void CFloatWidgetTest::itHandlesNoEvent()
