@@ -46,7 +46,11 @@ std::size_t heapPeak()
 
 #ifdef FUZZ_SANITIZED_HEAP
 
-#include <sanitizer/allocator_interface.h>
+// Declared here because GCC ships the runtime without this header.
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*allocated)(const volatile void* block,
+                                                                           std::size_t bytes),
+                                                         void (*freed)(const volatile void* block));
+extern "C" std::size_t __sanitizer_get_allocated_size(const volatile void* block);
 
 namespace {
 

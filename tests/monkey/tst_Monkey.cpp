@@ -20,6 +20,9 @@ namespace {
 
 constexpr quint64 kSeed = 20260101;
 constexpr int kFewest = 4; // at most one script in so many may lead elsewhere
+
+/// So many actions leave no kind of event out; the short runs under sanitizers may.
+constexpr long long kActionsThatCauseAll = 50000;
 constexpr long long kMostGrowth = 16 << 20;
 
 long long numberFrom(const char* variable, long long otherwise)
@@ -92,8 +95,10 @@ void tst_Monkey::nothingGoesWrongWhateverIsPressedAndCalled()
     std::printf("\n");
     QVERIFY2(report.failure.isEmpty(), said(report).constData());
     QCOMPARE(report.actions, run.actions);
-    for (const int event : {5, 73, 87, 101, 102, 118, 124, 248})
-        QVERIFY2(report.deeds.count(event) > 0, QByteArray::number(event) + " was never caused");
+    for (const int event : {5, 73, 87, 101, 102, 118, 124, 248}) {
+        const bool isCaused = report.deeds.count(event) > 0 || report.actions < kActionsThatCauseAll;
+        QVERIFY2(isCaused, QByteArray::number(event) + " was never caused");
+    }
     QVERIFY2(report.replayedApart * kFewest <= report.replayed, "the scripts hardly lead to the same states");
     QVERIFY2(report.grown < kMostGrowth, QByteArray::number(report.grown).constData());
 }
