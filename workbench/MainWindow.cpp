@@ -40,7 +40,7 @@ namespace {
 constexpr QSize kFirstSize(1180, 760);
 constexpr int kSetupWidth = 280;
 constexpr int kControlsWidth = 380;
-constexpr int kEventsHeight = 210;
+constexpr int kEventsHeight = 240;
 constexpr int kQuoteHeight = 290;
 
 /// The IDs of the credit accounts: the table knows none, its host fills the combo.

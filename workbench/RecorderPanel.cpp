@@ -24,10 +24,9 @@ namespace workbench {
 
 namespace {
 
-/// Widest text expected in each column but the last two, which share the room that is left.
-constexpr std::array<const char*, StepModel::Arguments> kColumnSamples = {"▶ 00000", "filterReset", "basket00"};
-constexpr int kArgumentsShare = 30;
-constexpr int kEventsShare = 16;
+/// Text that each column but the last has room for, so that all of them are seen in a narrow window.
+constexpr std::array<const char*, StepModel::Replay> kColumnSamples = {"▶ 00000", "filterReset", "basket00",
+                                                                       "setOrderSettings [0, 0]", "1061 1062 129"};
 
 void fitColumns(QTableView& view)
 {
@@ -36,8 +35,6 @@ void fitColumns(QTableView& view)
         const QString sample = QString::fromUtf8(kColumnSamples[static_cast<std::size_t>(column)]);
         view.setColumnWidth(column, metrics.horizontalAdvance(sample) + metrics.height());
     }
-    view.setColumnWidth(StepModel::Arguments, metrics.averageCharWidth() * kArgumentsShare);
-    view.setColumnWidth(StepModel::Events, metrics.averageCharWidth() * kEventsShare);
 }
 
 QString fileFilter()

@@ -111,6 +111,9 @@ void RecorderPanel::addButton(QHBoxLayout* bar, QAction* action) const
 {
     auto* button = new QPushButton;
     const auto follow = [button, action] {
+        // The style's buttons are wider than eight of them have room for in a narrow window.
+        const QFontMetrics metrics = button->fontMetrics();
+        button->setMinimumWidth(metrics.horizontalAdvance(action->text()) + metrics.height());
         button->setText(action->text());
         button->setToolTip(action->toolTip());
         button->setEnabled(action->isEnabled());
