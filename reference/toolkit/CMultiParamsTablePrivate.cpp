@@ -193,7 +193,9 @@ void CMultiParamsTablePrivate::layout()
 {
     placeColumns();
     QScrollBar* scroll = m_table->verticalScrollBar();
-    const int height = m_table->viewport()->height();
+    // The viewport's height is what a style sheet's frame leaves, until the table takes the frame back: a range that
+    // followed it would change with each of the two and never come to rest.
+    const int height = m_table->height();
     scroll->setPageStep(height);
     scroll->setSingleStep(m_metrics.rowHeight);
     scroll->setRange(0, std::max(0, contentHeight() - height));
