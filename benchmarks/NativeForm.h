@@ -1,22 +1,30 @@
 #pragma once
 
+#include "benchmarks/NativeFields.h"
+
+#include <QLabel>
 #include <QScrollArea>
-#include <QSet>
-#include <QStringList>
+
+#include <vector>
 
 namespace bench {
 
-/// The order panel as one would write it with Qt's own widgets: a form of labels and fields in a scroll area, a combo,
-/// spin box, time edit or line edit for each cell of the stock table, with the same labels, entries, ranges and values.
+/// The order panel as one would write it with Qt's own widgets: a form of labels and fields in a scroll area.
 class NativeForm : public QScrollArea
 {
     Q_OBJECT
 public:
-    /// Builds all rows and hides those whose cell IDs are not in @p shown.
-    explicit NativeForm(const QSet<int>& shown, QWidget* parent = nullptr);
+    explicit NativeForm(QWidget* parent);
 
-    /// The rows as "0x2 单笔超价", in order.
-    static QStringList rowNames();
+    void switchTo(const Mode& mode);
+    void changeNumber(double value);
+    QSet<int> shownRows() const;
+
+private:
+    void show(const QSet<int>& shown);
+
+    std::vector<QLabel*> m_labels;
+    std::vector<NativeField> m_fields;
 };
 
 } // namespace bench

@@ -4,6 +4,9 @@
 
 #include <QStringList>
 
+#include <array>
+#include <charconv>
+
 namespace bench {
 
 using ttservice::COrderSetting;
@@ -20,10 +23,10 @@ QString integerByNumber(int value)
     return QString::number(value, 10);
 }
 
-template <class Integer, class Real>
-QString joinedItems(const COrderSetting& s, Integer i, const Real& r)
+template <class List, class Integer, class Real>
+List itemsOf(const COrderSetting& s, Integer i, const Real& r)
 {
-    const QStringList items{
+    return {
         i(s.orderType),      i(s.intField2),    i(s.intField3),   r(s.realField4),  r(s.realField5),  i(s.intField6),
         i(s.intField7),      r(s.realField8),   r(s.realField9),  i(s.intField10),  r(s.realField11), r(s.realField12),
         i(s.intField13),     r(s.realField14),  i(s.intField15),  i(s.intField16),  i(s.intField17),  i(s.intField18),
@@ -31,8 +34,46 @@ QString joinedItems(const COrderSetting& s, Integer i, const Real& r)
         i(s.intField25),     r(s.realField26),  r(s.realField27), i(s.intField28),  i(s.intField29),  r(s.realField30),
         i(s.intField31),     r(s.realField32),  r(s.realField33), r(s.realField34), i(s.flag35),      i(s.flag36),
         i(s.cellWord1),      i(s.cellWord2),    i(s.cellWord5),   i(s.cellWord3),   i(s.cellWord4)};
-    return items.join(QLatin1Char('+'));
 }
+
+template <class Integer, class Real>
+QString joinedItems(const COrderSetting& setting, Integer integer, const Real& real)
+{
+    return itemsOf<QStringList>(setting, integer, real).join(QLatin1Char('+'));
+}
+
+constexpr std::size_t kCharsOfAll = 41 * 330;
+
+/// One item after another, each followed by the sign that parts it from the next.
+class CharsWriter
+{
+public:
+    bool integer(int value)
+    {
+        return took(std::to_chars(m_end, m_buffer.data() + m_buffer.size(), value));
+    }
+
+    bool real(double value)
+    {
+        return took(std::to_chars(m_end, m_buffer.data() + m_buffer.size(), value, std::chars_format::fixed, 3));
+    }
+
+    QString text() const
+    {
+        return QString::fromLatin1(m_buffer.data(), int(m_end - m_buffer.data()) - 1);
+    }
+
+private:
+    bool took(const std::to_chars_result& result)
+    {
+        m_end = result.ptr;
+        *m_end++ = '+';
+        return result.ec == std::errc();
+    }
+
+    std::array<char, kCharsOfAll> m_buffer;
+    char* m_end = m_buffer.data();
+};
 
 /// Splits as the format says and hands each value to @p store(operation, row, value).
 template <class Store>
@@ -81,6 +122,15 @@ QString settingByArg(const COrderSetting& setting, const RealText& realText)
 QString settingByNumber(const COrderSetting& setting, const RealText& realText)
 {
     return joinedItems(setting, integerByNumber, realText);
+}
+
+QString settingByChars(const COrderSetting& setting)
+{
+    CharsWriter writer;
+    itemsOf<std::array<bool, 41>>(
+        setting, [&writer](int value) { return writer.integer(value); },
+        [&writer](double value) { return writer.real(value); });
+    return writer.text();
 }
 
 bool readCreditBySplit(const QString& text, int& operation, CreditValues& values)

@@ -27,6 +27,9 @@ QString settingByArg(const ttservice::COrderSetting& setting, const RealText& re
 /// The 41 items, each integer by QString::number(), joined.
 QString settingByNumber(const ttservice::COrderSetting& setting, const RealText& realText);
 
+/// The same into one buffer by std::to_chars(), which rounds ties its own way.
+QString settingByChars(const ttservice::COrderSetting& setting);
+
 /// A credit parameter string by QString::split(), with its values stored.
 bool readCreditBySplit(const QString& text, int& operation, CreditValues& values);
 

@@ -1,20 +1,23 @@
 // What writing and reading the two parameter strings costs beside the same job with Qt's strings and lists.
 
-#include "benchmarks/Interleaved.h"
+#include "benchmarks/Allocations.h"
 #include "benchmarks/ParameterStringPeers.h"
+#include "benchmarks/Rounds.h"
+#include "benchmarks/Stopwatch.h"
 
 #include <OrderParamTable_mini/credit/CreditParameterString.h>
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace {
 
 constexpr int kBatch = 200;
-constexpr int kWarmUpRounds = 20;
+constexpr int kRounds = 200;
 constexpr int kOperation = 22;
 
 // Read by the optimiser as something that may be looked at.
@@ -24,11 +27,10 @@ volatile int g_sink = 0;
 template <class Job>
 double timeBatch(const Job& job)
 {
-    const auto start = std::chrono::steady_clock::now();
+    const bench::Stopwatch watch;
     for (int i = 0; i < kBatch; ++i)
         job(i);
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    return taken.count() / kBatch;
+    return watch.seconds() / kBatch;
 }
 
 ttservice::COrderSetting usualSetting()
@@ -60,27 +62,21 @@ bench::CreditValues usualValues()
     return values;
 }
 
-/// A goal as "our time over the peer's, at most".
-void report(const char* job, const bench::Interleaved& contenders, double goal)
+struct Way
 {
-    const double ratio = contenders.ratio(1);
-    std::printf("%-52s %8.3f us %8.3f us  ratio %.3f (%.1f times as fast)", job, contenders.median(1) * 1e6,
-                contenders.median(0) * 1e6, ratio, ratio > 0 ? 1 / ratio : 0);
-    if (goal > 0)
-        std::printf("  goal %.3f: %s", goal, ratio <= goal ? "met" : "not met");
-    std::printf("\n");
-}
+    const char* name;
+    std::function<double()> once; ///< seconds
+};
 
-template <class Peer, class Ours>
-void compare(const char* job, int rounds, double goal, const Peer& peer, const Ours& ours)
+void compare(const char* job, const std::vector<Way>& ways)
 {
-    bench::Interleaved contenders;
-    contenders.add("peer", peer);
-    contenders.add("ours", ours);
-    contenders.warmUp(kWarmUpRounds);
-    for (int i = 0; i < rounds; ++i)
-        contenders.round();
-    report(job, contenders, goal);
+    const auto run = [ways](benchmark::State& state) {
+        bench::Interleaved contenders;
+        for (const Way& way : ways)
+            contenders.add(way.name, way.once);
+        bench::playRounds(state, contenders);
+    };
+    benchmark::RegisterBenchmark(job, run)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(kRounds);
 }
 
 template <class Write>
@@ -89,20 +85,21 @@ auto writing(const Write& write)
     return [write] { return timeBatch([&write](int) { g_sink = g_sink + write().size(); }); };
 }
 
-void compareSettings(int rounds)
+void compareSettings()
 {
     const ttservice::COrderSetting setting = usualSetting();
-    const auto ours = writing([setting] { return TC::COrderParamBaseTable::orderSetting2Param(setting); });
     const auto byArg = [setting](bench::RealText real) {
         return writing([setting, real = std::move(real)] { return bench::settingByArg(setting, real); });
     };
     const auto byNumber = [setting](bench::RealText real) {
         return writing([setting, real = std::move(real)] { return bench::settingByNumber(setting, real); });
     };
-    compare("41 items, beside arg for each item and join", rounds, 0.2, byArg(bench::realByArg), ours);
-    compare("41 items, beside arg, reals by the toolkit", rounds, 0, byArg(bench::realByToolkit), ours);
-    compare("41 items, beside QString::number and join", rounds, 0, byNumber(bench::realByNumber), ours);
-    compare("41 items, beside number, reals by the toolkit", rounds, 0, byNumber(bench::realByToolkit), ours);
+    compare("setting",
+            {{"arg_toolkit", byArg(bench::realByToolkit)},
+             {"arg", byArg(bench::realByArg)},
+             {"number", byNumber(bench::realByNumber)},
+             {"to_chars", writing([setting] { return bench::settingByChars(setting); })},
+             {"ours", writing([setting] { return TC::COrderParamBaseTable::orderSetting2Param(setting); })}});
 }
 
 /// Reads a batch of texts, each into values of its own. Those are made (by reading @p before), with texts that nobody
@@ -122,29 +119,47 @@ auto reading(const QString& text, const QString& before, const Read& read)
     };
 }
 
-void compareCreditReading(int rounds, const QString& text)
+// Entries without a value are looked at and skipped: the same text costs its scan alone.
+QString withoutValues(QString text)
 {
-    compare("credit, reading into an empty table", rounds, 1 / 2.5, reading(text, {}, bench::readCreditBySplit),
-            reading(text, {}, TC::readCreditParameters));
-    compare("credit, reading over remembered values", rounds, 1 / 3.5, reading(text, text, bench::readCreditBySplit),
-            reading(text, text, TC::readCreditParameters));
+    return text.replace(QLatin1Char('='), QLatin1Char(':'));
+}
 
-    // Entries without a value are looked at and skipped: the same text costs its scan alone.
-    QString withoutValues = text;
-    withoutValues.replace(QLatin1Char('='), QLatin1Char(':'));
+void compareCreditReading(const QString& text)
+{
+    compare("credit_read",
+            {{"split", reading(text, {}, bench::readCreditBySplit)},
+             {"ours", reading(text, {}, TC::readCreditParameters)}});
+    compare("credit_read_over",
+            {{"split", reading(text, text, bench::readCreditBySplit)},
+             {"ours", reading(text, text, TC::readCreditParameters)}});
     const auto splitting = [text] {
         return timeBatch([&text](int) { g_sink = g_sink + bench::scanCreditBySplit(text); });
     };
-    compare("credit, the scan alone", rounds, 1 / 10.0, splitting,
-            reading(withoutValues, {}, TC::readCreditParameters));
+    compare("credit_scan",
+            {{"split", splitting}, {"ours", reading(withoutValues(text), {}, TC::readCreditParameters)}});
 }
 
-void compareCreditWriting(int rounds)
+/// Blocks asked for by a scan that stores nothing.
+void countScanAllocations(benchmark::State& state, const QString& text)
 {
-    const bench::CreditValues values = usualValues();
-    compare("credit, writing", rounds, 1 / 4.0,
-            writing([&values] { return bench::writeCreditByJoin(kOperation, values); }),
-            writing([&values] { return TC::writeCreditParameters(kOperation, values); }));
+    const QString scanned = withoutValues(text);
+    bench::CreditValues values;
+    int operation = 0;
+    TC::readCreditParameters(scanned, operation, values);
+    const long before = bench::allocations();
+    TC::readCreditParameters(scanned, operation, values);
+    state.counters["ours"] = double(bench::allocations() - before);
+    while (state.KeepRunning())
+        state.SetIterationTime(0);
+}
+
+void compareCreditWriting()
+{
+    static const bench::CreditValues values = usualValues();
+    compare("credit_write",
+            {{"join", writing([] { return bench::writeCreditByJoin(kOperation, values); })},
+             {"ours", writing([] { return TC::writeCreditParameters(kOperation, values); })}});
 }
 
 /// The contenders do the same job, or their times say nothing.
@@ -167,15 +182,17 @@ bool doTheSame(const QString& text)
 
 int main(int argc, char** argv)
 {
-    const int rounds = argc > 1 ? std::atoi(argv[1]) : 300;
+    benchmark::Initialize(&argc, argv);
     const QString text = TC::writeCreditParameters(kOperation, usualValues());
     if (!doTheSame(text)) {
         std::fprintf(stderr, "bench_parameter_strings: the contenders give different results\n");
         return EXIT_FAILURE;
     }
-    std::printf("medians of %d rounds: the library, its peer\n", rounds);
-    compareSettings(rounds);
-    compareCreditReading(rounds, text);
-    compareCreditWriting(rounds);
+    compareSettings();
+    compareCreditReading(text);
+    compareCreditWriting();
+    benchmark::RegisterBenchmark("credit_scan_allocations", countScanAllocations, text)->UseManualTime()->Iterations(1);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
     return EXIT_SUCCESS;
 }

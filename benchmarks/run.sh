@@ -1,15 +1,17 @@
 #!/usr/bin/env bash
-# Times the panel beside its peers, in the release build.
+# Measures the panel beside its peers, in the release build, and tells which goals are met.
 
 usage() {
     cat <<'USAGE'
-Usage: benchmarks/run.sh [OPTION]... [-- BENCHMARK-ARGUMENT...]
+Usage: benchmarks/run.sh [OPTION]...
 
-  --preset NAME   what to build and time: release (default) or another preset
+Prints one table: goal, measured, met or not. All figures go into build/<preset>/benchmarks.json.
+
+  --preset NAME   what to build and measure: release (default) or another preset
+  --strict        exit status 3 when a goal is not met
+  --chart         draw docs/pictures/benchmarks.svg anew
   --no-install    install nothing, take what is there
   --help          this text
-
-Arguments after -- go to the benchmark program, for example: -- --benchmark_format=json
 USAGE
 }
 
@@ -17,12 +19,15 @@ USAGE
 
 preset=release
 install=yes
+strict=no
+chart=()
 while [[ $# -gt 0 ]]; do
     case $1 in
         --help|-h) usage; exit ;;
         --preset) preset=$(argument_of "$1" $# "${2:-}"); shift ;;
+        --strict) strict=yes ;;
+        --chart) chart=(docs/pictures/benchmarks.svg) ;;
         --no-install) install=no ;;
-        --) shift; break ;;
         *) fail "unknown option $1 (benchmarks/run.sh --help lists them)" ;;
     esac
     shift
@@ -30,5 +35,38 @@ done
 
 [[ $install == no ]] || ensure_packages "${build_packages[@]}"
 prepare_environment
-build_preset "$preset" bench_panel
-QT_QPA_PLATFORM=offscreen step "timing the panel" "build/$preset/bin/bench_panel" "$@"
+build_preset "$preset" benchmark_programs
+
+programs=build/$preset/bin
+results=build/$preset/benchmarks
+mkdir -p "$results"
+export QT_QPA_PLATFORM=offscreen
+unset QT_SCALE_FACTOR
+
+# run_into LOG COMMAND...: shows what the command said only when it fails.
+run_into() {
+    local log=$1
+    shift
+    "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+}
+
+# measure RESULT PROGRAM [ARGUMENT]...: one program's figures.
+measure() {
+    local result=$1 program=$2
+    shift 2
+    rm -f "$results/$result.json"
+    step "measuring $result" run_into "$results/$result.log" "$programs/$program" --benchmark_out="$results/$result.json" \
+        --benchmark_out_format=json "$@"
+}
+
+measure panel bench_panel
+QT_SCALE_FACTOR=2 measure panel-ratio-2 bench_panel
+measure panel-style-sheet bench_panel --style-sheet
+measure crowd bench_crowd
+measure texts bench_parameter_strings
+measure dialogs bench_dialogs
+
+status=0
+"$programs/bench_report" "$results" "build/$preset/benchmarks.json" "${chart[@]}" || status=$?
+[[ $status == 0 || $status == 3 ]] || fail "the report failed with status $status"
+[[ $strict == no ]] || exit "$status"
