@@ -11,6 +11,12 @@ folder=$5
 sources=$(cd "$(dirname "$0")/../.." && pwd)
 mkdir -p "$folder"
 
+# Painting and copying choose their code by what the processor has; the baseline is that of one with AVX2.
+if [[ $kind == instructions ]] && ! grep -qw avx2 /proc/cpuinfo; then
+    echo "Skipped: the baseline is that of a processor with AVX2"
+    exit 0
+fi
+
 if [[ $kind == instructions ]]; then
     bash "$sources/benchmarks/instructions.sh" "$program" "$folder/parts" >"$folder/measured.txt"
 else
