@@ -55,7 +55,7 @@ void MainWindow::createTableMenu()
     QAction* rebuild = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Rebuild"), Qt::Key_F5);
     QAction* focus = addAction(menu, QT_TRANSLATE_NOOP("workbench", "Go to the order &panel"), Qt::Key_F6);
     menu->addSeparator();
-    QAction* quit = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Quit"), QKeySequence(Qt::CTRL + Qt::Key_Q));
+    QAction* quit = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Quit"), QKeySequence(int(Qt::CTRL) + Qt::Key_Q));
     connect(rebuild, &QAction::triggered, this, &MainWindow::rebuildTable);
     connect(focus, &QAction::triggered, m_bench, &TableBench::focusTable);
     connect(quit, &QAction::triggered, this, &QWidget::close);
@@ -68,7 +68,7 @@ void MainWindow::createViewMenu()
     for (QDockWidget* dock : qAsConst(m_docks)) {
         menu->addAction(dock->toggleViewAction());
         auto* raise = new QAction(dock);
-        raise->setShortcut(QKeySequence(Qt::CTRL + number++));
+        raise->setShortcut(QKeySequence(int(Qt::CTRL) + number++));
         dock->toggleViewAction()->setShortcut(QKeySequence());
         connect(raise, &QAction::triggered, dock, [dock] {
             dock->show();
@@ -105,7 +105,7 @@ void MainWindow::createScaleActions(QMenu* view)
     QAction* larger = addAction(view, QT_TRANSLATE_NOOP("workbench", "&Larger"), QKeySequence::ZoomIn);
     QAction* smaller = addAction(view, QT_TRANSLATE_NOOP("workbench", "&Smaller"), QKeySequence::ZoomOut);
     QAction* normal =
-        addAction(view, QT_TRANSLATE_NOOP("workbench", "&Normal size"), QKeySequence(Qt::CTRL + Qt::Key_0));
+        addAction(view, QT_TRANSLATE_NOOP("workbench", "&Normal size"), QKeySequence(int(Qt::CTRL) + Qt::Key_0));
     connect(larger, &QAction::triggered, this, [this] { chooseScale(WQ::resources::scale() + kScaleStep); });
     connect(smaller, &QAction::triggered, this, [this] { chooseScale(WQ::resources::scale() - kScaleStep); });
     connect(normal, &QAction::triggered, this, [this] { chooseScale(1.0); });
@@ -131,9 +131,9 @@ void MainWindow::createEventMenu()
 {
     QMenu* menu = addMenu(QT_TRANSLATE_NOOP("workbench", "&Events"));
     QAction* filter = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Filter"), QKeySequence::Find);
-    QAction* copy =
-        addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Copy"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
-    QAction* clear = addAction(menu, QT_TRANSLATE_NOOP("workbench", "C&lear"), QKeySequence(Qt::CTRL + Qt::Key_L));
+    QAction* copy = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Copy"),
+                              QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_C));
+    QAction* clear = addAction(menu, QT_TRANSLATE_NOOP("workbench", "C&lear"), QKeySequence(int(Qt::CTRL) + Qt::Key_L));
     connect(filter, &QAction::triggered, m_events, &EventPanel::focusFilter);
     connect(copy, &QAction::triggered, m_events, &EventPanel::copy);
     connect(clear, &QAction::triggered, m_events, &EventPanel::clear);

@@ -44,10 +44,10 @@ struct ActionRow
 constexpr std::array kActions = {
     ActionRow{Record, QT_TRANSLATE_NOOP("workbench", "Record"),
               QT_TRANSLATE_NOOP("workbench", "Record from here on; the way to the present situation comes first"),
-              Qt::CTRL + Qt::Key_R, NoRecording | NoReplay},
+              int(Qt::CTRL) + Qt::Key_R, NoRecording | NoReplay},
     ActionRow{Stop, QT_TRANSLATE_NOOP("workbench", "Stop"),
               QT_TRANSLATE_NOOP("workbench", "End the recording or the replay"),
-              Qt::CTRL + Qt::Key_Period, Activity},
+              int(Qt::CTRL) + Qt::Key_Period, Activity},
     ActionRow{Step, QT_TRANSLATE_NOOP("workbench", "Step"),
               QT_TRANSLATE_NOOP("workbench", "Replay the next step, beside the live panels"),
               Qt::Key_F10, NoRecording | NoAnswer | Steps},
@@ -56,16 +56,16 @@ constexpr std::array kActions = {
               Qt::Key_F9, NoRecording | NoAnswer | Steps},
     ActionRow{Save, QT_TRANSLATE_NOOP("workbench", "Save…"),
               QT_TRANSLATE_NOOP("workbench", "Save the script, and what was heard beside it"),
-              Qt::CTRL + Qt::Key_S, NoRecording | Steps},
+              int(Qt::CTRL) + Qt::Key_S, NoRecording | Steps},
     ActionRow{Load, QT_TRANSLATE_NOOP("workbench", "Load…"),
               QT_TRANSLATE_NOOP("workbench", "Load a script, with what is expected when that stands beside it"),
-              Qt::CTRL + Qt::Key_O, NoRecording},
+              int(Qt::CTRL) + Qt::Key_O, NoRecording},
     ActionRow{CopyScript, QT_TRANSLATE_NOOP("workbench", "Copy as replay script"),
               QT_TRANSLATE_NOOP("workbench", "Copy the commands for orderparam-replay"),
-              Qt::CTRL + Qt::SHIFT + Qt::Key_R, NoRecording | Steps},
+              int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_R, NoRecording | Steps},
     ActionRow{CopyTest, QT_TRANSLATE_NOOP("workbench", "Copy as test"),
               QT_TRANSLATE_NOOP("workbench", "Copy what writes the script and its expectations into the current folder"),
-              Qt::CTRL + Qt::SHIFT + Qt::Key_T, NoRecording | Steps | Answers},
+              int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_T, NoRecording | Steps | Answers},
 };
 // clang-format on
 
