@@ -1,4 +1,5 @@
 #include "credit/CreditPanel.h"
+#include "support/FaultCount.h"
 
 #include <QPointer>
 #include <QRegularExpression>
@@ -108,8 +109,12 @@ private Q_SLOTS:
     }
     void whatAListenerThrowsReachesTheCaller();
 
+    void cleanupTestCase();
+
 private:
     void dies(Victim victim);
+
+    FaultCount m_deletions{"deletion of a credit table by its host"};
 };
 
 void tst_CreditDeletedByListener::theListedEventsAreSent()
@@ -143,10 +148,12 @@ void tst_CreditDeletedByListener::dies(Victim victim)
             break;
         }
     };
+    m_deletions.begin();
     kSenders[sender].call(*family.table);
     QVERIFY(!family.table);
     const QList<int>& all = kSenders[sender].events;
     QCOMPARE(heard, all.mid(0, all.indexOf(event) + 1));
+    m_deletions.end();
 }
 
 void tst_CreditDeletedByListener::aListenerReadsAnotherText()
@@ -199,5 +206,11 @@ void tst_CreditDeletedByListener::whatAListenerThrowsReachesTheCaller()
     QCOMPARE(panel.host.takeNumbers(), (QList<int>{1083, 73}));
 }
 
+void tst_CreditDeletedByListener::cleanupTestCase()
+{
+    m_deletions.say();
+}
+
 QTEST_MAIN(tst_CreditDeletedByListener)
+#include "support/FaultCount.h"
 #include "tst_CreditDeletedByListener.moc"

@@ -1,7 +1,7 @@
-#include "faults/FaultCount.h"
 #include "faults/LogLines.h"
 #include "reference/services/ServiceControl.h"
 #include "reference/services/TextFile.h"
+#include "support/FaultCount.h"
 
 #include <TC/DataCenter.h>
 

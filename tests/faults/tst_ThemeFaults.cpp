@@ -1,9 +1,9 @@
-#include "faults/FaultCount.h"
 #include "faults/LogLines.h"
 #include "reference/services/TextFile.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/ThemeReader.h"
+#include "support/FaultCount.h"
 
 #include <WQ/CPushButton.h>
 #include <WQ/CUiResourceChangeHandler.h>

@@ -1,6 +1,6 @@
-#include "faults/FaultCount.h"
 #include "faults/LogLines.h"
 #include "faults/ThrowingPanel.h"
+#include "support/FaultCount.h"
 #include "support/ModuleGuard.h"
 
 #include "reference/toolkit/PersonEvents.h"

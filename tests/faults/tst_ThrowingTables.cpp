@@ -1,7 +1,7 @@
 #include "credit/CreditPanel.h"
-#include "faults/FaultCount.h"
 #include "faults/PublicCalls.h"
 #include "faults/Thrown.h"
+#include "support/FaultCount.h"
 #include "support/ModuleGuard.h"
 #include "support/Panel.h"
 #include "tables/TaskExpectations.h"

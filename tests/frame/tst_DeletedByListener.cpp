@@ -1,3 +1,4 @@
+#include "support/FaultCount.h"
 #include "support/ModuleGuard.h"
 #include "support/Panel.h"
 
@@ -126,6 +127,10 @@ private Q_SLOTS:
     void everyCauseAtEveryPoint();
     void everyEventIsReached();
     void recordReadByADeletedTableIsADefaultOne();
+    void cleanupTestCase();
+
+private:
+    FaultCount m_deletions{"deletion of a table by its host"};
 };
 
 void tst_DeletedByListener::everyCauseAtEveryPoint_data()
@@ -155,11 +160,13 @@ void tst_DeletedByListener::everyCauseAtEveryPoint()
     }
     for (int point = 0; point < undisturbed.size(); ++point) {
         Deletion deletion(point, Victim(victim));
+        m_deletions.begin();
         what.act(*deletion.table);
         QVERIFY2(!deletion.table, qPrintable(undisturbed.at(point)));
         QCOMPARE(deletion.steps, undisturbed.mid(0, point + 1));
         QCoreApplication::processEvents();
         QCOMPARE(deletion.steps.size(), point + 1);
+        m_deletions.end();
     }
 }
 
@@ -187,5 +194,11 @@ void tst_DeletedByListener::recordReadByADeletedTableIsADefaultOne()
     QVERIFY(!deletion.table);
 }
 
+void tst_DeletedByListener::cleanupTestCase()
+{
+    m_deletions.say();
+}
+
 QTEST_MAIN(tst_DeletedByListener)
+#include "support/FaultCount.h"
 #include "tst_DeletedByListener.moc"
