@@ -21,7 +21,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        const int alignment = Qt::AlignVCenter | (index.column() == 0 ? Qt::AlignLeft : Qt::AlignRight);
+        const auto alignment = int(Qt::AlignVCenter | (index.column() == 0 ? Qt::AlignLeft : Qt::AlignRight));
         painter->drawText(option.rect.adjusted(kPadding, 0, -kPadding, 0), alignment, index.data().toString());
         const QRect line(option.rect.left(), option.rect.bottom(), option.rect.width(), 1);
         painter->fillRect(line, option.palette.mid());
