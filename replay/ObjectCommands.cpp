@@ -1,4 +1,5 @@
 #include "replay/CommandRun.h"
+#include "replay/ModeButtons.h"
 #include "replay/Person.h"
 #include "replay/State.h"
 
@@ -43,14 +44,12 @@ void readData(const Json& json, EventData& data)
 /// The library makes a button without a text where its host is to name it. @returns its place, negative without one
 int nameButton(WQ::CDropDownButtonGroup& group, int id, const QString& text)
 {
-    for (WQ::CPushButton* button : group.findChildren<WQ::CPushButton*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (button->id() != id || !button->text().isEmpty() || !button->iconKey().isEmpty())
-            continue;
-        button->setText(text);
-        group.resetLayout();
-        return group.getButtonList().indexOf(id);
-    }
-    return -1;
+    WQ::CPushButton* button = pushButton(group, id);
+    if (!button || !takesNoRoom(*button))
+        return -1;
+    button->setText(text);
+    group.resetLayout();
+    return group.getButtonList().indexOf(id);
 }
 
 } // namespace

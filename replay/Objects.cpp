@@ -79,12 +79,6 @@ WQ::CDropDownButtonGroup* Object::buttons() const
     return widget ? widget->findChild<WQ::CDropDownButtonGroup*>() : nullptr;
 }
 
-TC::COrderParamBaseTable* Object::table() const
-{
-    auto* own = qobject_cast<TC::COrderParamBaseTable*>(widget);
-    return own || !widget ? own : widget->findChild<TC::COrderParamBaseTable*>();
-}
-
 void Object::show()
 {
     if (!widget->isWindow()) {

@@ -14,10 +14,6 @@ class CDropDownButtonGroup;
 class CMultiParamsTable;
 } // namespace WQ
 
-namespace TC {
-class COrderParamBaseTable;
-}
-
 namespace replay {
 
 class Host;
@@ -50,9 +46,6 @@ struct Object
 
     /// The order-mode buttons; null without any.
     WQ::CDropDownButtonGroup* buttons() const;
-
-    /// The table itself, or the one in a dialog; null without one.
-    TC::COrderParamBaseTable* table() const;
 
     /// Shows the object; the host's window takes the object's size, so that it is shown whole and never resized.
     void show();

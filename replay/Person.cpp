@@ -1,9 +1,9 @@
 #include "replay/Person.h"
 
+#include "replay/ModeButtons.h"
 #include "replay/Numbers.h"
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
-#include "reference/toolkit/IconButton.h"
 #include "reference/toolkit/PersonEvents.h"
 #include "reference/toolkit/cells/ComboCell.h"
 #include "reference/toolkit/editors/PersonEdits.h"
@@ -126,35 +126,6 @@ void checkKeys(const Json& command)
         throw WrongCommand("an edit gives value, unit, checked, text, index, low with high, time or elapse");
 }
 
-WQ::CPushButton* pushButton(const QWidget& parent, int id)
-{
-    const auto buttons = parent.findChildren<WQ::CPushButton*>(QString(), Qt::FindDirectChildrenOnly);
-    const auto found = std::find_if(buttons.begin(), buttons.end(),
-                                    [id](const WQ::CPushButton* button) { return button->id() == id; });
-    return found == buttons.end() ? nullptr : *found;
-}
-
-/// The help button has the ID 0 and says its name to screen readers.
-QAbstractButton* helpButton(const WQ::CDropDownButtonGroup& group)
-{
-    const QString name = WQ::CDropDownButtonGroup::tr("帮助");
-    for (WQ::IconButton* button : group.findChildren<WQ::IconButton*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (button->accessibleName() == name && !button->isHidden())
-            return button;
-    }
-    return nullptr;
-}
-
-/// A button that the strip is too narrow for stands in the drop-down, within reach all the same; one without text and
-/// icon takes no room anywhere.
-QAbstractButton* offeredButton(WQ::CDropDownButtonGroup& group, int id)
-{
-    if (!group.getParam().split(QLatin1Char(',')).contains(QString::number(id)))
-        return nullptr;
-    WQ::CPushButton* button = pushButton(group, id);
-    return button->text().isEmpty() && button->iconKey().isEmpty() ? nullptr : button;
-}
-
 QAbstractButton* buttonWithinReach(const Object& object, int id)
 {
     if (object.widget->isWindow()) {
@@ -164,9 +135,12 @@ QAbstractButton* buttonWithinReach(const Object& object, int id)
     WQ::CDropDownButtonGroup* group = object.buttons();
     if (!group || isHiddenIn(object, group))
         return nullptr;
-    if (id == kHelpButton)
-        return helpButton(*group);
-    return offeredButton(*group, id);
+    if (id == kHelpButton) {
+        QAbstractButton* help = helpButton(*group);
+        return help && !help->isHidden() ? help : nullptr;
+    }
+    WQ::CPushButton* button = pushButton(*group, id);
+    return button && !isHidden(*button, visibleIds(*group)) ? button : nullptr;
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #include "replay/State.h"
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
-#include "reference/toolkit/IconButton.h"
 #include "replay/CellState.h"
 #include "replay/DialogState.h"
+#include "replay/ModeButtons.h"
 #include "replay/Values.h"
 
 #include <OrderParamTable_mini/credit/CCreditParamTable.h>
@@ -78,21 +78,13 @@ Json stripState(const WQ::CWidgetList* strip)
     return json;
 }
 
-// The strip may be too narrow for a button that nobody has hidden: it stands in the drop-down then, and how wide the
-// strip is depends on whether the window has been shown.
-bool isHidden(const WQ::CPushButton& button, const QStringList& visibleIds)
-{
-    const bool isEmpty = button.text().isEmpty() && button.iconKey().isEmpty();
-    return isEmpty || !visibleIds.contains(QString::number(button.id()));
-}
-
-Json buttonState(const WQ::CPushButton& button, const QStringList& visibleIds)
+Json buttonState(const WQ::CPushButton& button, const QStringList& visible)
 {
     Json json = Json::object();
     json["id"] = button.id();
     json["text"] = written(button.text());
     json["checked"] = button.isChecked();
-    json["hidden"] = isHidden(button, visibleIds);
+    json["hidden"] = isHidden(button, visible);
     return json;
 }
 
@@ -101,32 +93,24 @@ Json buttonStates(WQ::CDropDownButtonGroup* group)
     Json json = Json::array();
     if (!group)
         return json;
-    const QStringList visibleIds = group->getParam().split(QLatin1Char(','));
-    const auto buttons = group->findChildren<WQ::CPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+    const QStringList visible = visibleIds(*group);
     for (const int id : group->getButtonList()) {
-        for (const WQ::CPushButton* button : buttons) {
-            if (button->id() == id)
-                json.push_back(buttonState(*button, visibleIds));
-        }
+        if (const WQ::CPushButton* button = pushButton(*group, id))
+            json.push_back(buttonState(*button, visible));
     }
     return json;
 }
 
-// The group tells a screen reader which of its own buttons is the help button, and whether it is marked.
+// The help button tells a screen reader whether it is marked.
 Json helpState(const WQ::CDropDownButtonGroup* group)
 {
-    if (!group)
+    const QAbstractButton* const help = group ? helpButton(*group) : nullptr;
+    if (!help)
         return nullptr;
-    const QString name = WQ::CDropDownButtonGroup::tr("帮助");
-    for (const WQ::IconButton* button : group->findChildren<WQ::IconButton*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (button->accessibleName() != name)
-            continue;
-        Json json = Json::object();
-        json["hidden"] = button->isHidden();
-        json["critical"] = !button->accessibleDescription().isEmpty();
-        return json;
-    }
-    return nullptr;
+    Json json = Json::object();
+    json["hidden"] = help->isHidden();
+    json["critical"] = !help->accessibleDescription().isEmpty();
+    return json;
 }
 
 Json gridState(const WQ::CMultiParamsTable& grid)
