@@ -101,15 +101,16 @@ Json buttonStates(WQ::CDropDownButtonGroup* group)
     return json;
 }
 
-// The help button tells a screen reader whether it is marked.
-Json helpState(const WQ::CDropDownButtonGroup* group)
+// The help button tells a screen reader whether it is marked. A group makes it when it is first needed.
+Json helpState(WQ::CDropDownButtonGroup* group)
 {
-    const QAbstractButton* const help = group ? helpButton(*group) : nullptr;
-    if (!help)
+    if (!group)
         return nullptr;
+    group->resetLayout();
+    const QAbstractButton* const help = helpButton(*group);
     Json json = Json::object();
-    json["hidden"] = help->isHidden();
-    json["critical"] = !help->accessibleDescription().isEmpty();
+    json["hidden"] = !help || help->isHidden();
+    json["critical"] = help && !help->accessibleDescription().isEmpty();
     return json;
 }
 

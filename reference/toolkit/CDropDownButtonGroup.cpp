@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace WQ {
 
@@ -76,19 +77,21 @@ void CDropDownButtonGroup::clearAllCheck()
 void CDropDownButtonGroup::setVisibleByID(int id, bool visible)
 {
     if (GroupEntry* entry = d->find(id)) {
-        entry->shown = visible;
+        const bool changes = std::exchange(entry->shown, visible) != visible;
         d->layOut();
-        updateGeometry();
+        if (changes)
+            updateGeometry();
     }
 }
 
 void CDropDownButtonGroup::showSelectButton(int id)
 {
     if (GroupEntry* entry = d->find(id)) {
-        entry->shown = true;
+        const bool changes = !std::exchange(entry->shown, true);
         d->brought = id;
         d->layOut();
-        updateGeometry();
+        if (changes)
+            updateGeometry();
     }
 }
 
@@ -108,13 +111,17 @@ QString CDropDownButtonGroup::getBtnNameByID(int id)
 
 void CDropDownButtonGroup::setHelpButtonVisible(bool visible)
 {
-    d->helpVisible = visible;
+    if (std::exchange(d->helpVisible, visible) == visible)
+        return;
     d->layOut();
     updateGeometry();
 }
 
 void CDropDownButtonGroup::setHelpButtonCritical(bool critical)
 {
+    if (!critical && !d->help)
+        return;
+    d->makeHelp();
     d->help->setDot(critical);
     d->help->setAccessibleDescription(critical ? tr("有重要提示") : QString());
 }
@@ -153,7 +160,7 @@ void CDropDownButtonGroup::resetLayout()
 
 QSize CDropDownButtonGroup::sizeHint() const
 {
-    const int length = stripLength(d->extentsOf(d->placedEntries()), d->size(keys::kButtonGap)) + d->helpExtent();
+    const int length = stripLength(extentsOf(d->placedEntries()), d->size(keys::kButtonGap)) + d->helpExtent();
     const QSize size(length, resources::size(keys::kStripHeight, 1.0));
     return d->isVertical() ? size.transposed() : size;
 }

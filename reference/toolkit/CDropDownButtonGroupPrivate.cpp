@@ -24,21 +24,55 @@ bool isPlaced(const GroupEntry& entry)
     return entry.shown && !(entry.button->text().isEmpty() && entry.button->iconKey().isEmpty());
 }
 
+// The buttons are made late, yet the tab key must not come to them after everything else in the window. Qt puts nothing
+// behind a widget that takes no focus.
+void takeFocusAfter(QWidget* previous, QWidget* button)
+{
+    const Qt::FocusPolicy policy = previous->focusPolicy();
+    previous->setFocusPolicy(Qt::TabFocus);
+    QWidget::setTabOrder(previous, button);
+    previous->setFocusPolicy(policy);
+}
+
 } // namespace
+
+QVector<int> extentsOf(const std::vector<PlacedEntry>& placed)
+{
+    QVector<int> extents;
+    extents.reserve(static_cast<int>(placed.size()));
+    for (const PlacedEntry& one : placed)
+        extents.append(one.extent);
+    return extents;
+}
 
 CDropDownButtonGroupPrivate::CDropDownButtonGroupPrivate(Qt::Orientation direction, CDropDownButtonGroup* owner)
     : group(owner)
     , orientation(direction)
     , exclusive(new QButtonGroup(owner))
-    , dropDown(new IconButton(keys::kChevronImage, keys::kChevron, owner))
-    , help(new IconButton(keys::kHelpImage, keys::kHelpIcon, owner))
 {
-    dropDown->setAccessibleName(CDropDownButtonGroup::tr("更多"));
-    dropDown->hide();
+}
+
+void CDropDownButtonGroupPrivate::makeHelp()
+{
+    if (help)
+        return;
+    help = new IconButton(keys::kHelpImage, keys::kHelpIcon, group);
+    help->hide();
     help->setAccessibleName(CDropDownButtonGroup::tr("帮助"));
-    QObject::connect(dropDown, &QAbstractButton::clicked, group, [this] { openDropDown(); });
     QObject::connect(help, &QAbstractButton::clicked, group,
                      [this] { postPersonEvent(group, *group, kClicked, kHelpId, 0, QString()); });
+    takeFocusAfter(dropDown ? static_cast<QWidget*>(dropDown) : group, help);
+}
+
+void CDropDownButtonGroupPrivate::makeDropDown()
+{
+    if (dropDown)
+        return;
+    dropDown = new IconButton(keys::kChevronImage, keys::kChevron, group);
+    dropDown->hide();
+    dropDown->setAccessibleName(CDropDownButtonGroup::tr("更多"));
+    QObject::connect(dropDown, &QAbstractButton::clicked, group, [this] { openDropDown(); });
+    takeFocusAfter(group, dropDown);
 }
 
 GroupEntry* CDropDownButtonGroupPrivate::find(int id)
@@ -90,29 +124,22 @@ int CDropDownButtonGroupPrivate::helpExtent() const
     return helpVisible ? size(keys::kHelpButton) : 0;
 }
 
-QVector<int> CDropDownButtonGroupPrivate::extentsOf(const std::vector<GroupEntry*>& placed) const
+std::vector<PlacedEntry> CDropDownButtonGroupPrivate::placedEntries()
 {
-    QVector<int> extents;
-    for (const GroupEntry* entry : placed)
-        extents.append(extentOf(*entry->button));
-    return extents;
-}
-
-std::vector<GroupEntry*> CDropDownButtonGroupPrivate::placedEntries()
-{
-    std::vector<GroupEntry*> placed;
-    for (GroupEntry& entry : entries)
+    std::vector<PlacedEntry> placed;
+    placed.reserve(entries.size());
+    for (const GroupEntry& entry : entries)
         if (isPlaced(entry))
-            placed.push_back(&entry);
+            placed.push_back({&entry, extentOf(*entry.button)});
     return placed;
 }
 
-QVector<int> CDropDownButtonGroupPrivate::keptPositions(const std::vector<GroupEntry*>& placed) const
+QVector<int> CDropDownButtonGroupPrivate::keptPositions(const std::vector<PlacedEntry>& placed) const
 {
     QVector<int> kept;
     for (int id : {brought, checkedId()})
         for (size_t i = 0; i < placed.size(); ++i)
-            if (placed[i]->button->id() == id)
+            if (placed[i].entry->button->id() == id)
                 kept.append(static_cast<int>(i));
     return kept;
 }
@@ -127,7 +154,7 @@ void CDropDownButtonGroupPrivate::layOut()
     if (layingOut)
         return;
     layingOut = true;
-    const std::vector<GroupEntry*> placed = placedEntries();
+    const std::vector<PlacedEntry> placed = placedEntries();
     const QVector<int> extents = extentsOf(placed);
     const int gap = size(keys::kButtonGap);
     int room = (isVertical() ? group->height() : group->width()) - helpExtent();
@@ -135,13 +162,13 @@ void CDropDownButtonGroupPrivate::layOut()
     if (overflows)
         room -= size(keys::kDropDownButton);
     const QVector<int> strip = itemsThatFit(extents, keptPositions(placed), room, gap);
-    std::vector<GroupEntry*> stripEntries;
+    std::vector<PlacedEntry> stripEntries;
     overflow.clear();
     for (size_t i = 0; i < placed.size(); ++i) {
         if (strip.contains(static_cast<int>(i)))
             stripEntries.push_back(placed[i]);
         else
-            overflow.append(placed[i]->button->id());
+            overflow.append(placed[i].entry->button->id());
     }
     placeStrip(stripEntries, room);
     placeOwnButtons(overflows);
@@ -149,35 +176,45 @@ void CDropDownButtonGroupPrivate::layOut()
 }
 
 // Buttons with the filling anchor share the room that the others leave.
-void CDropDownButtonGroupPrivate::placeStrip(const std::vector<GroupEntry*>& strip, int room)
+void CDropDownButtonGroupPrivate::placeStrip(const std::vector<PlacedEntry>& strip, int room)
 {
     const int gap = size(keys::kButtonGap);
+    const auto fills = [](const PlacedEntry& one) { return one.entry->anchor == AnchorFill; };
     int left = std::max(0, room - stripLength(extentsOf(strip), gap));
-    auto filling = static_cast<int>(
-        std::count_if(strip.begin(), strip.end(), [](const GroupEntry* entry) { return entry->anchor == AnchorFill; }));
+    auto filling = static_cast<int>(std::count_if(strip.begin(), strip.end(), fills));
     int start = 0;
-    for (const GroupEntry* entry : strip) {
-        int extent = extentOf(*entry->button);
-        if (entry->anchor == AnchorFill) {
+    for (const PlacedEntry& one : strip) {
+        int extent = one.extent;
+        if (fills(one)) {
             const int share = left / filling--;
             left -= share;
             extent += share;
         }
-        entry->button->setGeometry(span(start, extent));
+        one.entry->button->setGeometry(span(start, extent));
         start += extent + gap;
     }
-    for (const GroupEntry& entry : entries)
-        entry.button->setVisible(std::find(strip.begin(), strip.end(), &entry) != strip.end());
+    for (const GroupEntry& entry : entries) {
+        const auto isIt = [&entry](const PlacedEntry& one) { return one.entry == &entry; };
+        entry.button->setVisible(std::any_of(strip.begin(), strip.end(), isIt));
+    }
 }
 
 void CDropDownButtonGroupPrivate::placeOwnButtons(bool overflows)
 {
+    if (helpVisible)
+        makeHelp();
+    if (overflows)
+        makeDropDown();
     const int helpStart = (isVertical() ? group->height() : group->width()) - helpExtent();
-    help->setGeometry(span(helpStart, helpExtent()));
-    help->setVisible(helpVisible);
-    const int extent = size(keys::kDropDownButton);
-    dropDown->setGeometry(span(helpStart - extent, extent));
-    dropDown->setVisible(overflows);
+    if (help) {
+        help->setGeometry(span(helpStart, helpExtent()));
+        help->setVisible(helpVisible);
+    }
+    if (dropDown) {
+        const int extent = size(keys::kDropDownButton);
+        dropDown->setGeometry(span(helpStart - extent, extent));
+        dropDown->setVisible(overflows);
+    }
 }
 
 void CDropDownButtonGroupPrivate::openDropDown()
@@ -213,7 +250,7 @@ QList<QWidget*> CDropDownButtonGroupPrivate::focusStops()
     for (const GroupEntry& entry : entries)
         stops.append(entry.button);
     stops << dropDown << help;
-    const auto isOut = [](const QWidget* stop) { return stop->isHidden() || !stop->isEnabled(); };
+    const auto isOut = [](const QWidget* stop) { return !stop || stop->isHidden() || !stop->isEnabled(); };
     stops.erase(std::remove_if(stops.begin(), stops.end(), isOut), stops.end());
     return stops;
 }

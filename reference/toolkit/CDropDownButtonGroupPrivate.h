@@ -23,6 +23,15 @@ struct GroupEntry
     bool shown; ///< as the host wants it; in the strip or in the drop-down
 };
 
+/// A button that takes room, and how much.
+struct PlacedEntry
+{
+    const GroupEntry* entry;
+    int extent;
+};
+
+QVector<int> extentsOf(const std::vector<PlacedEntry>& placed);
+
 /// What stands behind a button group: its buttons and where they are.
 class CDropDownButtonGroupPrivate
 {
@@ -40,13 +49,14 @@ public:
     int size(const QString& key) const;
     int extentOf(const CPushButton& button) const;
     int helpExtent() const;
-    QVector<int> extentsOf(const std::vector<GroupEntry*>& placed) const;
-    std::vector<GroupEntry*> placedEntries();
-    QVector<int> keptPositions(const std::vector<GroupEntry*>& placed) const;
+    std::vector<PlacedEntry> placedEntries();
+    QVector<int> keptPositions(const std::vector<PlacedEntry>& placed) const;
     QRect span(int start, int extent) const;
     void layOut();
-    void placeStrip(const std::vector<GroupEntry*>& strip, int room);
+    void placeStrip(const std::vector<PlacedEntry>& strip, int room);
     void placeOwnButtons(bool overflows);
+    void makeHelp();
+    void makeDropDown();
     void openDropDown();
     void chooseFromDropDown(int id);
     void moveFocus(bool forward);
@@ -55,8 +65,8 @@ public:
     CDropDownButtonGroup* const group;
     const Qt::Orientation orientation;
     QButtonGroup* const exclusive;
-    IconButton* const dropDown;
-    IconButton* const help;
+    IconButton* dropDown = nullptr; ///< null while it was never needed
+    IconButton* help = nullptr;     ///< null while it was never needed
     std::vector<GroupEntry> entries;
     QVector<int> overflow; ///< IDs in the drop-down
     int brought = -1;      ///< ID of the button last brought into the strip

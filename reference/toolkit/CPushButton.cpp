@@ -5,12 +5,14 @@
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
+#include <QHash>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace WQ {
 
@@ -36,6 +38,33 @@ const QString& keyOf(const ColorKeys& colors, Look look)
 bool isArrow(int key)
 {
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+constexpr int kWidthsKept = 256;
+constexpr int kLongestKept = 64;
+
+// The checked text is the wider one; a button keeps its width when it is checked.
+int measuredWidth(const QString& text, double scale)
+{
+    return std::max(painting::textWidth(resources::font(keys::kTextFont, scale), text),
+                    painting::textWidth(resources::font(keys::kCheckedFont, scale), text));
+}
+
+// Every panel has the same few buttons, and a group asks for their widths again at each of its layouts.
+int buttonTextWidth(const QString& text, double scale)
+{
+    static auto* const widths = new QHash<QPair<QString, double>, int>;
+    if (text.isEmpty())
+        return 0;
+    if (text.size() > kLongestKept)
+        return measuredWidth(text, scale);
+    const QPair<QString, double> key(text, scale);
+    const auto found = widths->constFind(key);
+    if (found != widths->constEnd())
+        return *found;
+    if (widths->size() >= kWidthsKept)
+        widths->clear();
+    return *widths->insert(key, measuredWidth(text, scale));
 }
 
 } // namespace
@@ -118,13 +147,9 @@ bool CPushButtonPrivate::isEmpty() const
     return icon.isEmpty() && button->text().isEmpty();
 }
 
-// The checked text is the wider one; a button keeps its width when it is checked.
 int CPushButtonPrivate::contentWidth() const
 {
-    const QString text = button->text();
-    const int textWidth =
-        text.isEmpty() ? 0 : std::max(painting::textWidth(font(false), text), painting::textWidth(font(true), text));
-    return textWidth + gap() + iconEdge();
+    return buttonTextWidth(button->text(), painting::buttonScaleOf(button)) + gap() + iconEdge();
 }
 
 QRect CPushButtonPrivate::textRect(const QRect& content) const

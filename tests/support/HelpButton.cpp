@@ -11,7 +11,7 @@ namespace support {
 
 namespace {
 
-/// The group tells a screen reader about the button, and this test in the same words.
+/// The group tells a screen reader about the button, and this test in the same words. Null while it was never needed.
 const QAbstractButton* helpButton(WQ::CDropDownButtonGroup& group)
 {
     group.resetLayout();
@@ -19,20 +19,21 @@ const QAbstractButton* helpButton(WQ::CDropDownButtonGroup& group)
     const auto help = std::find_if(buttons.begin(), buttons.end(), [](const QAbstractButton* button) {
         return button->accessibleName() == QStringLiteral("帮助");
     });
-    Q_ASSERT(help != buttons.end());
-    return *help;
+    return help == buttons.end() ? nullptr : *help;
 }
 
 } // namespace
 
 bool isHelpButtonOffered(WQ::CDropDownButtonGroup& group)
 {
-    return !helpButton(group)->isHidden();
+    const QAbstractButton* const help = helpButton(group);
+    return help && !help->isHidden();
 }
 
 bool isHelpButtonCritical(WQ::CDropDownButtonGroup& group)
 {
-    return !helpButton(group)->accessibleDescription().isEmpty();
+    const QAbstractButton* const help = helpButton(group);
+    return help && !help->accessibleDescription().isEmpty();
 }
 
 void addModeButton(WQ::CDropDownButtonGroup& group, int id, const char* text)

@@ -69,8 +69,32 @@ struct Group
         return nullptr;
     }
 
+    bool shows(const QString& name) const
+    {
+        const QWidget* found = named(name);
+        return found && found->isVisible();
+    }
+
     Listener host;
     CDropDownButtonGroup* const group;
+};
+
+/// Counts the layout requests that come to a widget.
+class LayoutRequests : public QObject
+{
+public:
+    explicit LayoutRequests(QObject* watched)
+    {
+        watched->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::LayoutRequest ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
 };
 
 PopupList* popup()
@@ -111,6 +135,10 @@ private Q_SLOTS:
     void theTextOrdersAndHidesButtons();
     void aMegabyteOfTextIsRead();
     void arrowKeysMoveTheFocus();
+    void theTabKeyComesToLateButtonsFromWithinTheGroup_data();
+    void theTabKeyComesToLateButtonsFromWithinTheGroup();
+    void aMarkGivenToHiddenHelpIsSeenWithIt();
+    void whatIsThereAlreadyAsksForNoLayout();
     void verticalGroupsStandBelowEachOther();
     void ownersMayDeleteTheirButtons();
     void aButtonMayLeaveForAnotherParent();
@@ -212,20 +240,23 @@ void CDropDownButtonGroupTest::programmaticChoiceSendsNothing()
 void CDropDownButtonGroupTest::whatDoesNotFitGoesIntoTheDropDown()
 {
     Group g;
-    QWidget* more = g.named(QStringLiteral("更多"));
-    QVERIFY(!more->isVisible());
+    QVERIFY(!g.shows(QStringLiteral("更多")));
     g.group->resize(258, 28);
     QCOMPARE(g.strip(), QStringLiteral("600 601 602 603 604"));
-    QVERIFY(!more->isVisible());
+    QVERIFY(!g.shows(QStringLiteral("更多")));
     g.group->resize(257, 28);
     QCOMPARE(g.strip(), QStringLiteral("600 601 602 603"));
-    QVERIFY(more->isVisible());
-    QCOMPARE(more->geometry(), QRect(239, 0, 18, 28));
+    QVERIFY(g.shows(QStringLiteral("更多")));
+    QCOMPARE(g.named(QStringLiteral("更多"))->geometry(), QRect(239, 0, 18, 28));
+    g.group->resize(258, 28);
+    QVERIFY(!g.shows(QStringLiteral("更多")));
+    g.group->resize(257, 28);
+    QVERIFY(g.shows(QStringLiteral("更多")));
     g.group->resize(223, 28);
     QCOMPARE(g.strip(), QStringLiteral("600 601 602"));
     g.group->resize(40, 28);
     QCOMPARE(g.strip(), QString());
-    QVERIFY(more->isVisible());
+    QVERIFY(g.shows(QStringLiteral("更多")));
 }
 
 void CDropDownButtonGroupTest::theCheckedButtonStaysInTheStrip()
@@ -484,6 +515,68 @@ void CDropDownButtonGroupTest::arrowKeysMoveTheFocus()
     QCOMPARE(g.group->selectedButton(), 602);
     QTest::keyClick(g.button(602), Qt::Key_Left);
     QCOMPARE(g.group->selectedButton(), 602);
+}
+
+void CDropDownButtonGroupTest::theTabKeyComesToLateButtonsFromWithinTheGroup_data()
+{
+    QTest::addColumn<bool>("helpFirst");
+    QTest::newRow("help first") << true;
+    QTest::newRow("drop-down first") << false;
+}
+
+void CDropDownButtonGroupTest::theTabKeyComesToLateButtonsFromWithinTheGroup()
+{
+    QFETCH(bool, helpFirst);
+    Group g;
+    QWidget before(&g.host);
+    QWidget after(&g.host);
+    for (QWidget* neighbour : {&before, &after})
+        neighbour->setFocusPolicy(Qt::StrongFocus);
+    QWidget::setTabOrder(g.button(604), &after);
+    if (helpFirst)
+        g.group->setHelpButtonVisible(true);
+    g.group->resize(180, 28);
+    g.group->setHelpButtonVisible(true);
+    // The chain from the group on: what a tab key passes before it comes to the first of the mode buttons.
+    QStringList passed;
+    for (QWidget* next = g.group->nextInFocusChain(); next != g.button(600); next = next->nextInFocusChain())
+        passed.append(next->accessibleName());
+    QCOMPARE(passed, (QStringList{QStringLiteral("更多"), QStringLiteral("帮助")}));
+    QCOMPARE(g.button(604)->nextInFocusChain(), &after);
+    QCOMPARE(g.group->focusPolicy(), Qt::NoFocus);
+}
+
+void CDropDownButtonGroupTest::aMarkGivenToHiddenHelpIsSeenWithIt()
+{
+    Group g;
+    g.group->setHelpButtonCritical(true);
+    QVERIFY(!g.shows(QStringLiteral("帮助")));
+    g.group->setHelpButtonVisible(true);
+    QVERIFY(g.shows(QStringLiteral("帮助")));
+    QVERIFY(!g.named(QStringLiteral("帮助"))->accessibleDescription().isEmpty());
+    g.group->setHelpButtonVisible(false);
+    g.group->setHelpButtonCritical(false);
+    g.group->setHelpButtonVisible(true);
+    QVERIFY(g.named(QStringLiteral("帮助"))->accessibleDescription().isEmpty());
+}
+
+void CDropDownButtonGroupTest::whatIsThereAlreadyAsksForNoLayout()
+{
+    Group g;
+    g.group->setCheckedByID(601);
+    g.group->showSelectButton(601);
+    QCoreApplication::processEvents();
+    LayoutRequests requests(&g.host);
+    g.group->setCheckedByID(601);
+    g.group->showSelectButton(601);
+    g.group->setVisibleByID(602, true);
+    g.group->setHelpButtonVisible(false);
+    g.group->setHelpButtonCritical(false);
+    QCoreApplication::processEvents();
+    QCOMPARE(requests.count, 0);
+    g.group->setVisibleByID(602, false);
+    QCoreApplication::processEvents();
+    QVERIFY(requests.count > 0);
 }
 
 void CDropDownButtonGroupTest::verticalGroupsStandBelowEachOther()
