@@ -20,14 +20,14 @@ constexpr int kUsualLength = 1024;
 int numberOf(QStringView text)
 {
     constexpr int kSafeDigits = 9;
-    int value = 0;
+    unsigned value = 0;
     bool isPlain = !text.isEmpty() && text.size() <= kSafeDigits;
-    for (const QChar character : text.left(isPlain ? text.size() : 0)) {
-        const int digit = character.unicode() - u'0';
-        isPlain = isPlain && digit >= 0 && digit <= 9;
-        value = value * 10 + (isPlain ? digit : 0);
+    for (const QChar* at = text.begin(); isPlain && at != text.end(); ++at) {
+        const unsigned digit = at->unicode() - unsigned(u'0');
+        isPlain = digit <= 9;
+        value = value * 10 + digit;
     }
-    return isPlain ? value : QString::fromRawData(text.data(), int(text.size())).toInt();
+    return isPlain ? int(value) : QString::fromRawData(text.data(), int(text.size())).toInt();
 }
 
 /// A field of a group: a number, or a number and a value.
@@ -80,16 +80,29 @@ private:
             return;
         if (!m_rows)
             m_rows = &m_values[m_operation];
-        const int row = numberOf(field.name);
-        const auto stored = m_rows->find(row);
-        if (stored == m_rows->end())
-            m_rows->insert(m_rows->cend(), row, QVariant(field.value.toString()));
-        else if (stored->userType() == QMetaType::QString)
-            static_cast<QString*>(stored->data())->setUnicode(field.value.data(), int(field.value.size()));
-        else
-            *stored = QVariant(field.value.toString());
+        store(numberOf(field.name), field.value);
     }
 
+    // Rows come in ascending order as a rule, and each text goes straight into its place: copies of QVariants cost more
+    // than the text itself.
+    void store(int row, QStringView value)
+    {
+        const bool isNew = m_rows->isEmpty() || m_rows->lastKey() < row;
+        const auto stored = isNew ? m_rows->end() : m_rows->find(row);
+        if (stored == m_rows->end())
+            textOf(*m_rows->insert(m_rows->cend(), row, m_noText)) = value.toString();
+        else if (stored->userType() == QMetaType::QString)
+            textOf(*stored).setUnicode(value.data(), int(value.size()));
+        else
+            *stored = QVariant(value.toString());
+    }
+
+    static QString& textOf(QVariant& text)
+    {
+        return *static_cast<QString*>(text.data());
+    }
+
+    const QVariant m_noText = QString();
     CreditValues& m_values;
     QMap<int, QVariant>* m_rows = nullptr;
     int m_operation = 0;

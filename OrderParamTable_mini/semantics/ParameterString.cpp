@@ -1,5 +1,8 @@
 #include <OrderParamTable_mini/semantics/ParameterString.h>
 
+#include <QVarLengthArray>
+
+#include <algorithm>
 #include <charconv>
 #include <iterator>
 
@@ -65,29 +68,66 @@ constexpr Item kItems[] = {
 // clang-format on
 static_assert(std::size(kItems) == 41, "hosts count 41 items");
 
-constexpr int kUsualLength = 256;
+constexpr int kMostIntDigits = 11;
+/// What the items that are no reals need at most, separators of all items included.
+constexpr int kPlainRoom = int(std::size(kItems)) * (kMostIntDigits + 1);
 
-void appendInt(QString& text, int value)
+/// A text that grows in place and is copied into a block of its own once, when its length is known. Only a real's text
+/// has no length to count on: room for all that is plain is always there.
+class ItemWriter
 {
-    char digits[16];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
-    text.append(QLatin1String(digits, int(end - digits)));
-}
+    Q_DISABLE_COPY(ItemWriter)
 
-void appendItem(QString& text, const Item& item, const COrderSetting& setting, RealFieldFormatter formatReal)
+public:
+    ItemWriter() = default;
+
+    void put(char character)
+    {
+        *m_end++ = ushort(character);
+    }
+
+    void put(int value)
+    {
+        char digits[kMostIntDigits];
+        const char* const end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
+        m_end = std::copy(std::cbegin(digits), end, m_end);
+    }
+
+    void put(const QString& text)
+    {
+        const auto written = int(m_end - m_room.data());
+        if (m_room.size() - written - kPlainRoom < text.size()) {
+            m_room.resize(written + text.size() + kPlainRoom);
+            m_end = m_room.data() + written;
+        }
+        m_end = std::copy_n(reinterpret_cast<const ushort*>(text.constData()), text.size(), m_end);
+    }
+
+    QString text() const
+    {
+        return QString(reinterpret_cast<const QChar*>(m_room.data()), int(m_end - m_room.data()));
+    }
+
+private:
+    static constexpr int kUsualRoom = 2 * kPlainRoom;
+    QVarLengthArray<ushort, kUsualRoom> m_room = QVarLengthArray<ushort, kUsualRoom>(kUsualRoom);
+    ushort* m_end = m_room.data();
+};
+
+void putItem(ItemWriter& writer, const Item& item, const COrderSetting& setting, RealFieldFormatter formatReal)
 {
     switch (item.type) {
     case ItemType::Int:
-        appendInt(text, setting.*item.intMember);
+        writer.put(setting.*item.intMember);
         break;
     case ItemType::Real:
-        text.append(formatReal(setting.*item.realMember));
+        writer.put(formatReal(setting.*item.realMember));
         break;
     case ItemType::Flag:
-        text.append(QLatin1Char(setting.*item.flagMember ? '1' : '0'));
+        writer.put(setting.*item.flagMember ? '1' : '0');
         break;
     case ItemType::OrderType:
-        appendInt(text, setting.*item.orderTypeMember);
+        writer.put(int(setting.*item.orderTypeMember));
         break;
     }
 }
@@ -96,14 +136,13 @@ void appendItem(QString& text, const Item& item, const COrderSetting& setting, R
 
 QString parameterString(const COrderSetting& setting, RealFieldFormatter formatReal)
 {
-    QString text;
-    text.reserve(kUsualLength);
+    ItemWriter writer;
     for (const Item& item : kItems) {
-        if (!text.isEmpty())
-            text.append(QLatin1Char('+'));
-        appendItem(text, item, setting, formatReal);
+        if (&item != std::begin(kItems))
+            writer.put('+');
+        putItem(writer, item, setting, formatReal);
     }
-    return text;
+    return writer.text();
 }
 
 } // namespace TC

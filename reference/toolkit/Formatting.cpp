@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <limits>
 
 namespace WQ {
@@ -29,9 +30,7 @@ constexpr std::array<Wide, kMostDecimals + 1> powersOfTen()
 
 constexpr std::array<Wide, kMostDecimals + 1> kPowersOfTen = powersOfTen();
 
-// A mantissa shifted left so far at most, times the largest power of ten, still fits: 53 + 7 + 67 bits.
-constexpr int kMostLeftShift = 7;
-// Shifted right by this much or more, the same product without the left shift is below a half: 53 + 67 bits.
+// Shifted right by this much or more, a mantissa times the largest power of ten is below a half: 53 + 67 bits.
 constexpr int kRightShiftToZero = 121;
 static_assert(kPowersOfTen.back() < (Wide(1) << 67), "the products must fit into 128 bits");
 
@@ -57,59 +56,27 @@ BinaryParts partsOf(double number)
     return {stored | kHiddenBit, storedExponent - kExponentOfUnit};
 }
 
-/// Digits written from the end to the front. Room for the longest: 39 digits, point, sign.
-class DigitBuffer
+/// @p scaled, a number times ten to the @p decimals, with its point. Written from the end to the front.
+QString pointed(std::uint64_t scaled, int decimals, bool negative)
 {
-public:
-    void put(char16_t character)
-    {
-        *--m_begin = character;
-    }
-
-    void putLow(std::uint64_t& number)
-    {
-        put(static_cast<char16_t>(u'0' + number % 10));
-        number /= 10;
-    }
-
-    QString text() const
-    {
-        return QString(reinterpret_cast<const QChar*>(m_begin),
-                       static_cast<int>(m_room.data() + m_room.size() - m_begin));
-    }
-
-private:
-    std::array<char16_t, 48> m_room;
-    char16_t* m_begin = m_room.data() + m_room.size();
-};
-
-/// @p scaled, a number times ten to the @p decimals, with its point.
-QString pointed(Wide scaled, int decimals, bool negative)
-{
-    constexpr std::uint64_t kChunk = 1'000'000'000'000'000'000u;
-    constexpr int kChunkDigits = 18;
-    DigitBuffer digits;
-    if (negative && scaled == 0)
-        negative = false;
-    int written = 0;
-    const auto putDigit = [&](std::uint64_t& number) {
-        if (decimals > 0 && written == decimals)
-            digits.put(u'.');
-        digits.putLow(number);
-        ++written;
+    char16_t room[kMostDecimals + 24]; // digits, point, sign
+    char16_t* const end = std::end(room);
+    char16_t* begin = end;
+    const auto putLow = [&begin, &scaled] {
+        *--begin = static_cast<char16_t>(u'0' + scaled % 10);
+        scaled /= 10;
     };
-    while (scaled >> 64 != 0) {
-        auto low = static_cast<std::uint64_t>(scaled % kChunk);
-        scaled /= kChunk;
-        for (int i = 0; i < kChunkDigits; ++i)
-            putDigit(low);
-    }
-    auto rest = static_cast<std::uint64_t>(scaled);
-    while (rest != 0 || written <= decimals)
-        putDigit(rest);
+    negative = negative && scaled != 0;
+    for (int i = 0; i < decimals; ++i)
+        putLow();
+    if (decimals > 0)
+        *--begin = u'.';
+    do
+        putLow();
+    while (scaled != 0);
     if (negative)
-        digits.put(u'-');
-    return digits.text();
+        *--begin = u'-';
+    return QString(reinterpret_cast<const QChar*>(begin), static_cast<int>(end - begin));
 }
 
 } // namespace
@@ -123,15 +90,12 @@ QString formatDoubleNumber(long double value, int decimals, FormatFlags, bool, c
 
     // Scaled in integers nothing is lost before the one rounding.
     const BinaryParts parts = partsOf(number);
-    if (parts.exponent > kMostLeftShift)
-        return QString::number(number, 'f', decimals);
     const Wide product = parts.mantissa * kPowersOfTen[static_cast<std::size_t>(decimals)];
-    Wide scaled = 0;
-    if (parts.exponent >= 0)
-        scaled = product << parts.exponent;
-    else if (-parts.exponent < kRightShiftToZero)
-        scaled = ((product >> (-parts.exponent - 1)) + 1) >> 1;
-    return pointed(scaled, decimals, std::signbit(number));
+    const int shift = -parts.exponent;
+    const Wide scaled = shift > 0 && shift < kRightShiftToZero ? ((product >> (shift - 1)) + 1) >> 1 : 0;
+    if (shift <= 0 || scaled >> 64 != 0)
+        return QString::number(number, 'f', decimals);
+    return pointed(static_cast<std::uint64_t>(scaled), decimals, std::signbit(number));
 }
 
 QString formatIntNumber(int value, int width, FormatFlags)
