@@ -6,6 +6,8 @@
 #include <QString>
 #include <QVector>
 
+#include <vector>
+
 namespace bench {
 
 /// Which run of the programs a figure comes from.
@@ -17,8 +19,15 @@ using Figures = QMap<QString, QMap<QString, double>>;
 /// Reads what Google Benchmark wrote as JSON.
 Figures figuresOf(const QJsonObject& output);
 
+/// Everything that was measured in one go.
+using Measurement = QMap<Run, Figures>;
+
+/// A counter over another contender's, or itself where @p base is null; less than 0 when it was not measured.
+double ratioIn(const Figures& figures, const char* job, const char* contender, const char* base);
+
 struct GoalRow
 {
+    const char* topic;
     const char* title;
     Run run;
     const char* job;
@@ -27,27 +36,28 @@ struct GoalRow
     double atMost;
 };
 
-/// The goals, in the order in which they are told.
+/// The goals, in the order in which they are told; those of a topic stand together.
 const QVector<GoalRow>& goals();
 
 struct Verdict
 {
     const GoalRow* goal;
-    bool isMeasured;
-    double measured;
+    std::vector<double> figures; ///< one a measurement; empty when one of them lacks it
 
-    bool isMet() const
+    bool isMeasured() const
     {
-        return isMeasured && measured <= goal->atMost;
+        return !figures.empty();
     }
+
+    /// The median of the measurements is what is judged.
+    double measured() const;
+    bool isMet() const;
 };
 
-QVector<Verdict> judge(const QMap<Run, Figures>& runs);
+QVector<Verdict> judge(const QVector<Measurement>& measurements);
 
+/// One line a goal; of several measurements each figure, and the median.
 QString verdictTable(const QVector<Verdict>& verdicts);
 QJsonArray verdictJson(const QVector<Verdict>& verdicts);
-
-/// Bars of the measured figures over their goals, the goal being a line at 1.
-QString verdictChart(const QVector<Verdict>& verdicts);
 
 } // namespace bench

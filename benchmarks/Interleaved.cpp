@@ -1,6 +1,7 @@
 #include "benchmarks/Interleaved.h"
 
-#include <algorithm>
+#include "benchmarks/Median.h"
+
 #include <utility>
 
 namespace bench {
@@ -36,14 +37,7 @@ double Interleaved::last(int contender) const
 
 double Interleaved::median(int contender) const
 {
-    std::vector<double> seconds = m_contenders.at(static_cast<std::size_t>(contender)).seconds;
-    if (seconds.empty())
-        return 0;
-    const auto middle = seconds.begin() + static_cast<std::ptrdiff_t>(seconds.size() / 2);
-    std::nth_element(seconds.begin(), middle, seconds.end());
-    if (seconds.size() % 2 != 0)
-        return *middle;
-    return (*middle + *std::max_element(seconds.begin(), middle)) / 2;
+    return medianOf(m_contenders.at(static_cast<std::size_t>(contender)).seconds);
 }
 
 double Interleaved::ratio(int contender) const

@@ -2,6 +2,7 @@
 // starts with itself: memory that another one has left would be taken again.
 
 #include "benchmarks/Heap.h"
+#include "benchmarks/Median.h"
 #include "benchmarks/Stage.h"
 #include "benchmarks/Stopwatch.h"
 #include "reference/services/ServiceControl.h"
@@ -11,7 +12,6 @@
 #include <QApplication>
 #include <QProcess>
 
-#include <algorithm>
 #include <cstdio>
 #include <map>
 
@@ -43,12 +43,6 @@ std::unique_ptr<bench::Peer> makeOne(bench::Stage& stage, const bench::Contender
     return peer;
 }
 
-double medianOf(std::vector<double> times)
-{
-    std::nth_element(times.begin(), times.begin() + std::ptrdiff_t(times.size() / 2), times.end());
-    return times[times.size() / 2];
-}
-
 Crowd gather(const bench::Contender& contender)
 {
     bench::Stage stage;
@@ -63,11 +57,11 @@ Crowd gather(const bench::Contender& contender)
     for (int i = 0; i < kFew; ++i)
         peers.push_back(makeOne(stage, contender, times));
     const double heapOfFew = (bench::heapBytes() - heap) / kFew;
-    const double timeOfFew = medianOf(times);
+    const double timeOfFew = bench::medianOf(times);
     for (int i = kFew; i < kMany; ++i)
         peers.push_back(makeOne(stage, contender, times));
     return {(bench::residentBytes() - resident) / kMany, (bench::heapBytes() - heap) / kMany / heapOfFew,
-            medianOf(times) / timeOfFew};
+            bench::medianOf(times) / timeOfFew};
 }
 
 Crowd gatherElsewhere(const char* contender)
@@ -91,7 +85,7 @@ void crowds(benchmark::State& state, double Crowd::*figure)
             rounds.push_back(gatherElsewhere(contender.name));
         for (const Crowd& crowd : rounds)
             figures.push_back(crowd.*figure);
-        state.counters[contender.name] = medianOf(figures);
+        state.counters[contender.name] = bench::medianOf(figures);
     }
     while (state.KeepRunning())
         state.SetIterationTime(0);

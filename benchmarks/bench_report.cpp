@@ -1,11 +1,14 @@
 // Tells which goals the benchmarks met.
 //
-//   bench_report FOLDER RESULT.json [CHART.svg]
+//   bench_report [--chart CHART.svg] RESULT.json FOLDER...
 //
-// FOLDER holds what the programs wrote, one file a run. Exit status 3 tells of goals that are not met.
+// A folder holds what the programs wrote in one go; of several the medians are judged. Exit status 3 tells of goals
+// that are not met.
 
-#include "benchmarks/Goals.h"
+#include "benchmarks/Contest.h"
+#include "benchmarks/GoalChart.h"
 
+#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonDocument>
@@ -45,12 +48,20 @@ bool write(const QString& path, const QByteArray& text)
     return written;
 }
 
-QJsonObject allFigures(const QMap<bench::Run, bench::Figures>& runs)
+bench::Measurement readMeasurement(const QString& folder)
+{
+    bench::Measurement measurement;
+    for (const RunFile& one : kRunFiles)
+        measurement[one.run] = bench::figuresOf(readObject(folder + QLatin1Char('/') + QLatin1String(one.file)));
+    return measurement;
+}
+
+QJsonObject allFigures(const bench::Measurement& measurement)
 {
     QJsonObject all;
     for (const RunFile& one : kRunFiles) {
         QJsonObject jobs;
-        const bench::Figures figures = runs.value(one.run);
+        const bench::Figures figures = measurement.value(one.run);
         for (auto job = figures.cbegin(); job != figures.cend(); ++job) {
             QJsonObject contenders;
             for (auto figure = job->cbegin(); figure != job->cend(); ++figure)
@@ -62,26 +73,47 @@ QJsonObject allFigures(const QMap<bench::Run, bench::Figures>& runs)
     return all;
 }
 
+QByteArray resultOf(const QVector<bench::Measurement>& measurements, const QVector<bench::Verdict>& verdicts)
+{
+    QJsonArray figures;
+    for (const bench::Measurement& one : measurements)
+        figures.append(allFigures(one));
+    const QJsonObject result{{QStringLiteral("goals"), bench::verdictJson(verdicts)},
+                             {QStringLiteral("ratios"), bench::ratioJson(measurements)},
+                             {QStringLiteral("figures"), figures}};
+    return QJsonDocument(result).toJson();
+}
+
+void print(const QString& table)
+{
+    std::printf("%s\n", qPrintable(table));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    const QStringList arguments = application.arguments();
-    if (arguments.size() < 3) {
-        std::fprintf(stderr, "usage: bench_report FOLDER RESULT.json [CHART.svg]\n");
+    QCommandLineParser options;
+    const QCommandLineOption chart(QStringLiteral("chart"), QString(), QStringLiteral("file"));
+    options.addOption(chart);
+    options.process(application);
+    QStringList paths = options.positionalArguments();
+    if (paths.size() < 2) {
+        std::fprintf(stderr, "usage: bench_report [--chart CHART.svg] RESULT.json FOLDER...\n");
         return 2;
     }
-    QMap<bench::Run, bench::Figures> runs;
-    for (const RunFile& one : kRunFiles)
-        runs[one.run] = bench::figuresOf(readObject(arguments.at(1) + QLatin1Char('/') + QLatin1String(one.file)));
-    const auto verdicts = bench::judge(runs);
-    std::printf("%s", qPrintable(bench::verdictTable(verdicts)));
-    const QJsonObject result{{QStringLiteral("goals"), bench::verdictJson(verdicts)},
-                             {QStringLiteral("figures"), allFigures(runs)}};
-    if (!write(arguments.at(2), QJsonDocument(result).toJson()))
+    const QString result = paths.takeFirst();
+    QVector<bench::Measurement> measurements;
+    for (const QString& folder : qAsConst(paths))
+        measurements.append(readMeasurement(folder));
+    const auto verdicts = bench::judge(measurements);
+    for (const auto table : {bench::ratioTable, bench::countTable, bench::textTable})
+        print(table(measurements));
+    print(bench::verdictTable(verdicts));
+    if (!write(result, resultOf(measurements, verdicts)))
         return 2;
-    if (arguments.size() > 3 && !write(arguments.at(3), bench::verdictChart(verdicts).toUtf8()))
+    if (options.isSet(chart) && !write(options.value(chart), bench::goalChart(verdicts).toUtf8()))
         return 2;
     const bool allMet = std::all_of(verdicts.begin(), verdicts.end(), [](const auto& one) { return one.isMet(); });
     return allMet ? 0 : 3;
