@@ -5,6 +5,17 @@
 
 namespace WQ {
 
+namespace {
+
+// The step says how many decimals are shown and which values are marked. Limits are not seen.
+bool looksSame(const NumberUnit& one, const NumberUnit& other)
+{
+    return one.text == other.text && one.hasStep == other.hasStep && !(one.step < other.step)
+        && !(one.step > other.step);
+}
+
+} // namespace
+
 NumberCell::NumberCell(int id, QString label, QVector<NumberUnit> units, double value)
     : CellItem(CellKind::Number, id, std::move(label))
     , m_units(std::move(units))
@@ -129,8 +140,7 @@ bool NumberCell::setUnit(const QString& unit)
     const int index = indexOfUnit(unit);
     if (index >= 0)
         return setCurrentUnit(index);
-    m_units[m_current].text = unit;
-    return true;
+    return std::exchange(m_units[m_current].text, unit) != unit;
 }
 
 bool NumberCell::setUnit(const QString& unit, double min, double max, double step, bool makeCurrent)
@@ -140,6 +150,8 @@ bool NumberCell::setUnit(const QString& unit, double min, double max, double ste
         return false;
     if (index < 0)
         index = m_current;
+    const NumberUnit before = currentUnit();
+    const int currentBefore = m_current;
     NumberUnit& target = m_units[index];
     target.text = unit;
     WQ::setLimits(target, min, max);
@@ -147,8 +159,7 @@ bool NumberCell::setUnit(const QString& unit, double min, double max, double ste
         setStep(target, step);
     if (makeCurrent)
         m_current = index;
-    bound();
-    return true;
+    return bound() || m_current != currentBefore || !looksSame(before, currentUnit());
 }
 
 bool NumberCell::setTick(const QString& unit, double step)
@@ -156,8 +167,9 @@ bool NumberCell::setTick(const QString& unit, double step)
     const int index = indexOfUnit(unit);
     if (index < 0)
         return false;
+    const NumberUnit before = currentUnit();
     setStep(m_units[index], step);
-    return true;
+    return !looksSame(before, currentUnit());
 }
 
 QString NumberCell::offGridText() const

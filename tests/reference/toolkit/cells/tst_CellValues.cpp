@@ -159,9 +159,12 @@ void tst_CellValues::limitsOfTheCurrentUnitBoundTheValue()
 void tst_CellValues::sixArgumentsMakeTheUnitCurrentOnlyWhenAsked()
 {
     WQ::NumberCell cell = superPrice();
-    cell.setUnit(QStringLiteral("元"), -10, 10, 0, false);
+    QVERIFY2(!cell.setUnit(QStringLiteral("元"), -10, 10, 0, false), "limits of another unit are not seen");
     QCOMPARE(cell.unit(), QStringLiteral("%"));
-    cell.setUnit(QStringLiteral("元"), -20, 20, 0, true);
+    QVERIFY2(!cell.setUnit(QStringLiteral("%"), -50, 50, 0, true), "limits are not seen");
+    QVERIFY2(cell.setUnit(QStringLiteral("%"), -0.25, 0.25, 0, false), "the value is bounded");
+    QVERIFY2(cell.setUnit(QStringLiteral("%"), -50, 50, 0.125, false), "the step has other decimals");
+    QVERIFY(cell.setUnit(QStringLiteral("元"), -20, 20, 0, true));
     QCOMPARE(cell.unit(), QStringLiteral("元"));
     QCOMPARE(cell.minimum(), -20.0);
 }
@@ -191,12 +194,13 @@ void tst_CellValues::stepOfZeroKeepsTheStep()
 void tst_CellValues::tickSetsTheStepOfThatUnitAndTouchesNoValue()
 {
     WQ::NumberCell cell = superPrice();
-    QVERIFY(cell.setTick(QStringLiteral("元"), 0.002));
+    QVERIFY2(!cell.setTick(QStringLiteral("元"), 0.002), "the step of another unit is not seen");
     QCOMPARE(cell.units().at(1).step, 0.002);
     QCOMPARE(cell.currentUnit().step, 0.01);
     QVERIFY(cell.setTick(QStringLiteral("%"), 0.3));
     QCOMPARE(cell.number(), 0.5);
     QVERIFY2(!cell.offGridText().isEmpty(), "the value stays where it is and is marked");
+    QVERIFY2(!cell.setTick(QStringLiteral("%"), 0.3), "nothing changes");
     QVERIFY(!cell.setTick(QStringLiteral("点"), 1));
 }
 
