@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace WQ {
 
 namespace {
@@ -28,11 +30,21 @@ public:
     }
 
     int wheelPixels(const QWheelEvent& event);
+    bool isLaidOut(const CScrollArea& area);
 
     QString ground = keys::kWindow;
     SlimScrollBar* const bar;
     double rest = 0; ///< of a pixel, that a slow wheel has not scrolled yet
+    QSize barHint;   ///< of the bar as it stands
 };
+
+// What is laid out follows the sizes of the area and of its widget, and Qt acts on each of them as it changes; of a
+// request only the bar's own size is new.
+bool CScrollAreaPrivate::isLaidOut(const CScrollArea& area)
+{
+    const QSize hint = bar->sizeHint();
+    return std::exchange(barHint, hint) == hint && !area.widgetResizable();
+}
 
 int CScrollAreaPrivate::wheelPixels(const QWheelEvent& event)
 {
@@ -109,6 +121,8 @@ void CScrollArea::wheelEvent(QWheelEvent* event)
 
 bool CScrollArea::event(QEvent* event)
 {
+    if (event->type() == QEvent::LayoutRequest && d->isLaidOut(*this))
+        return true;
     const bool handled = CEventWidgetT<QScrollArea>::event(event);
     if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
         painting::shieldFromStyleSheet(this);
