@@ -15,6 +15,15 @@
 
 namespace WQ {
 
+namespace {
+
+bool isSameEntry(const GroupEntry& one, const GroupEntry& other)
+{
+    return one.button == other.button && one.shown == other.shown;
+}
+
+} // namespace
+
 CDropDownButtonGroup::CDropDownButtonGroup(Qt::Orientation orientation, QWidget* parent)
     : CEventWidgetT<QWidget>(parent)
     , d(std::make_unique<CDropDownButtonGroupPrivate>(orientation, this))
@@ -148,9 +157,11 @@ void CDropDownButtonGroup::setParam(QString param)
         ordered.push_back(*d->find(id));
         ordered.back().shown = listed.contains(id);
     }
+    const bool changes = !std::equal(ordered.begin(), ordered.end(), d->entries.begin(), isSameEntry);
     d->entries = std::move(ordered);
     d->layOut();
-    updateGeometry();
+    if (changes)
+        updateGeometry();
 }
 
 void CDropDownButtonGroup::resetLayout()

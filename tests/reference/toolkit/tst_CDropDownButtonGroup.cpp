@@ -572,8 +572,13 @@ void CDropDownButtonGroupTest::whatIsThereAlreadyAsksForNoLayout()
     g.group->setVisibleByID(602, true);
     g.group->setHelpButtonVisible(false);
     g.group->setHelpButtonCritical(false);
+    g.group->setParam(g.group->getParam());
     QCoreApplication::processEvents();
     QCOMPARE(requests.count, 0);
+    g.group->setParam(QStringLiteral("602,601"));
+    QCoreApplication::processEvents();
+    QVERIFY(requests.count > 0);
+    requests.count = 0;
     g.group->setVisibleByID(602, false);
     QCoreApplication::processEvents();
     QVERIFY(requests.count > 0);
