@@ -9,6 +9,11 @@
 
 #include <WQ/CMultiParamsTable.h>
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <iterator>
+
 namespace TC {
 
 using namespace ttservice;
@@ -198,15 +203,31 @@ constexpr CellRow kCells[] = {
 };
 // clang-format on
 
+using LabelList = std::array<QString, std::size(kCells)>;
+
+// Made once and shared by the cells of every table.
+const LabelList& cellLabels()
+{
+    static const LabelList labels = [] {
+        LabelList made;
+        std::transform(std::begin(kCells), std::end(kCells), made.begin(),
+                       [](const CellRow& row) { return QString::fromUtf16(row.label); });
+        return made;
+    }();
+    return labels;
+}
+
 } // namespace
 
 void addCells(WQ::CMultiParamsTable& table, const OrderState& state, ComboEntries& priceTypes,
               const ModuleQuery& isModuleOn)
 {
     const Context context{table, state, priceTypes, isModuleOn};
-    for (const CellRow& row : kCells) {
+    const LabelList& labels = cellLabels();
+    for (std::size_t i = 0; i < std::size(kCells); ++i) {
+        const CellRow& row = kCells[i];
         if (row.isOffered(context))
-            row.add(context, row.id, QString::fromUtf16(row.label));
+            row.add(context, row.id, labels[i]);
     }
 }
 

@@ -46,9 +46,10 @@ bool isPreCloseOffered(const OrderState& state)
 ComboEntries optionHandling(int identity)
 {
     static const ComboEntries limit = ComboEntries(kLeave) + ComboEntries(kOptionLimitHandling);
-    static const ComboEntries market(kOptionMarketHandling);
     static const ComboEntries levels(kBestLevelHandling);
-    return kTablesWithoutOptionMarketOrders.contains(identity) ? limit + levels : limit + market + levels;
+    static const ComboEntries withoutMarket = limit + levels;
+    static const ComboEntries withMarket = limit + ComboEntries(kOptionMarketHandling) + levels;
+    return kTablesWithoutOptionMarketOrders.contains(identity) ? withoutMarket : withMarket;
 }
 
 } // namespace
@@ -58,14 +59,14 @@ ComboEntries unfinishedOrderHandling(const OrderState& state)
     static const ComboEntries futures(kFutureHandling);
     static const ComboEntries hongKong = ComboEntries(kLeave) + ComboEntries(kBestLevelHandling);
     static const ComboEntries book(kBookHandling);
-    static const ComboEntries preClose(kPreCloseHandling);
+    static const ComboEntries bookAndPreClose = book + ComboEntries(kPreCloseHandling);
     if (kFutureBrokers.contains(state.broker))
         return futures;
     if (kHongKongBrokers.contains(state.broker))
         return hongKong;
     if (state.broker == BROKER_TYPE_OPTION)
         return optionHandling(state.identity);
-    return isPreCloseOffered(state) ? book + preClose : book;
+    return isPreCloseOffered(state) ? bookAndPreClose : book;
 }
 
 } // namespace TC
