@@ -1,5 +1,7 @@
 #include "benchmarks/CostBaseline.h"
 
+#include <algorithm>
+
 namespace bench {
 
 namespace {
@@ -8,6 +10,12 @@ QString line(const QString& name, double before, double now)
 {
     return QStringLiteral("%1: %2, the baseline says %3")
         .arg(name, QString::number(now, 'f', 0), QString::number(before, 'f', 0));
+}
+
+double allowedDifference(const QString& name, double before, const Tolerance& tolerance)
+{
+    const double floor = name.endsWith(QLatin1String(" instructions")) ? tolerance.instructions : 0;
+    return std::max(before * tolerance.share, floor);
 }
 
 } // namespace
@@ -40,7 +48,7 @@ QString writeCosts(const Costs& costs)
     return text;
 }
 
-Comparison compareCosts(const Costs& baseline, const Costs& measured, double tolerance)
+Comparison compareCosts(const Costs& baseline, const Costs& measured, const Tolerance& tolerance)
 {
     Comparison result;
     for (auto cost = measured.cbegin(); cost != measured.cend(); ++cost) {
@@ -49,9 +57,10 @@ Comparison compareCosts(const Costs& baseline, const Costs& measured, double tol
             continue;
         }
         const double before = baseline.value(cost.key());
-        if (cost.value() > before * (1 + tolerance))
+        const double allowed = allowedDifference(cost.key(), before, tolerance);
+        if (cost.value() > before + allowed)
             result.wrong.append(line(cost.key(), before, cost.value()));
-        else if (cost.value() < before * (1 - tolerance))
+        else if (cost.value() < before - allowed)
             result.better.append(line(cost.key(), before, cost.value()));
     }
     for (auto cost = baseline.cbegin(); cost != baseline.cend(); ++cost) {

@@ -15,15 +15,23 @@ Costs readCosts(const QString& text, QStringList& problems);
 
 QString writeCosts(const Costs& costs);
 
-/// What the comparison of measured costs with a baseline says. Wrong is what fails: a cost more than the tolerance
-/// above its baseline, anything where there was nothing, and a name that only one side has. A cost more than the
-/// tolerance below is told, so that the baseline can be renewed.
+/// How far a cost may be from its baseline: by this share of it, and a cost in instructions by so many in any case.
+/// From run to run an operation may or may not meet work that is not its own, such as a wake-up of the event loop.
+struct Tolerance
+{
+    double share;
+    double instructions;
+};
+
+/// What the comparison of measured costs with a baseline says. Wrong is what fails: a cost farther above its baseline
+/// than the tolerance lets it, and a name that only one side has. A cost as far below is told, so that the baseline can
+/// be renewed.
 struct Comparison
 {
     QStringList wrong;
     QStringList better;
 };
 
-Comparison compareCosts(const Costs& baseline, const Costs& measured, double tolerance);
+Comparison compareCosts(const Costs& baseline, const Costs& measured, const Tolerance& tolerance);
 
 } // namespace bench

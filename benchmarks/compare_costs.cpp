@@ -13,7 +13,9 @@
 
 namespace {
 
-constexpr double kTolerance = 0.05;
+// In twenty runs beside builds the instructions of an operation varied by at most 1.6 %, those of the smallest ones by
+// none; an allocation that leaves the allocator's fast path is 300 more, which is a third of the smallest.
+constexpr bench::Tolerance kTolerance{0.05, 500};
 
 void print(const char* title, const QStringList& lines)
 {

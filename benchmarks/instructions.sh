@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # instructions.sh PANEL_COSTS FOLDER: prints the instructions that each operation of panel_costs takes, counted by
-# callgrind. FOLDER takes its files. Later figures of an operation replace earlier ones, which warmed the process up.
+# callgrind. FOLDER takes its files.
 set -euo pipefail
 
 program=$1

@@ -6,11 +6,15 @@
 #include "reference/services/ServiceControl.h"
 
 #include <QApplication>
+#include <QHash>
 
 #include <cstdio>
 
 int main(int argc, char** argv)
 {
+    // The order of hashed things, and the loop of GLib, would cost a little more or less at each run.
+    qSetGlobalQHashSeed(0);
+    qputenv("QT_NO_GLIB", "1");
     QApplication application(argc, argv);
     reference::setModules(
         {QStringLiteral("mdl_alg/mdl_alg_randvolume"), QStringLiteral("mdl_order/mdl_order_command_remark")});

@@ -32,9 +32,12 @@ prepare_environment
 export QT_QPA_PLATFORM=offscreen TZ=Asia/Shanghai LANG=C.UTF-8
 baselines=tests/benchmarks/baseline
 mkdir -p "$baselines"
+counts=
 for preset in "${presets[@]}"; do
     build_preset "$preset" panel_costs
     program=build/$preset/bin/panel_costs
     "$program" >"$baselines/counts.txt"
+    [[ -z $counts || $counts == "$(<"$baselines/counts.txt")" ]] || fail "the presets count differently; one baseline is for all"
+    counts=$(<"$baselines/counts.txt")
     bash benchmarks/instructions.sh "$program" "build/$preset/instructions" >"$baselines/instructions-$preset.txt"
 done

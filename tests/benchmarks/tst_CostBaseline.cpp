@@ -7,10 +7,12 @@ using bench::Costs;
 namespace {
 
 const QString kPaints = QStringLiteral("switch panel paints");
+const QString kInstructions = QStringLiteral("switch panel instructions");
+constexpr bench::Tolerance kTolerance{0.05, 1000};
 
-bench::Comparison compared(double before, double now)
+bench::Comparison compared(double before, double now, const QString& name = kPaints)
 {
-    return bench::compareCosts({{kPaints, before}}, {{kPaints, now}}, 0.05);
+    return bench::compareCosts({{name, before}}, {{name, now}}, kTolerance);
 }
 
 } // namespace
@@ -44,11 +46,31 @@ private Q_SLOTS:
         QVERIFY(compared(0, 0).wrong.isEmpty());
     }
 
+    void fewInstructionsMayDifferByMoreThanTheShare()
+    {
+        QVERIFY(compared(3000, 4000, kInstructions).wrong.isEmpty());
+        QCOMPARE(compared(3000, 4001, kInstructions).wrong.size(), 1);
+        QVERIFY(compared(3000, 2000, kInstructions).better.isEmpty());
+        QCOMPARE(compared(3000, 1999, kInstructions).better.size(), 1);
+    }
+
+    void manyInstructionsMayDifferByTheShareAlone()
+    {
+        QVERIFY(compared(100000, 105000, kInstructions).wrong.isEmpty());
+        QCOMPARE(compared(100000, 105001, kInstructions).wrong.size(), 1);
+    }
+
+    void aCountThatIsNoInstructionsHasNoFloor()
+    {
+        QCOMPARE(compared(10, 11).wrong.size(), 1);
+        QCOMPARE(compared(10, 9).better.size(), 1);
+    }
+
     void aCostThatOnlyOneSideHasIsWrong()
     {
-        QCOMPARE(bench::compareCosts({}, {{kPaints, 1}}, 0.05).wrong,
+        QCOMPARE(bench::compareCosts({}, {{kPaints, 1}}, kTolerance).wrong,
                  QStringList(QStringLiteral("switch panel paints: not in the baseline")));
-        QCOMPARE(bench::compareCosts({{kPaints, 1}}, {}, 0.05).wrong,
+        QCOMPARE(bench::compareCosts({{kPaints, 1}}, {}, kTolerance).wrong,
                  QStringList(QStringLiteral("switch panel paints: not measured")));
     }
 
