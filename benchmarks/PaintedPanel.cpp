@@ -97,10 +97,11 @@ private:
         const auto position = std::size_t(m_content.shown()[std::size_t(row)]);
         const QRect rect = rowRect(row);
         const int top = rect.top() + (kRowHeight - painter.fontMetrics().height()) / 2;
-        painter.drawStaticText(kPadding, top, m_labels[position]);
+        QStaticText& label = m_labels[position];
         QStaticText& value = m_values[position];
-        prepare(m_labels[position], painter);
+        prepare(label, painter);
         prepare(value, painter);
+        painter.drawStaticText(kPadding, top, label);
         painter.drawStaticText(width() - kPadding - int(value.size().width()), top, value);
         painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, palette().mid());
     }
