@@ -10,6 +10,9 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
 
 namespace WQ {
 
@@ -25,6 +28,34 @@ void showToolTip(CMultiParamsTablePrivate& table, const QHelpEvent& event)
         text = table.toolTipOf(*cell);
     painting::showToolTip(event, text, table.table());
 }
+
+// Qt repaints a view whole when the focus comes or goes, and only one row of ours shows it. Not for code that may run
+// a host's: what that asks to be painted would be lost.
+class UpdateHold
+{
+public:
+    explicit UpdateHold(QAbstractScrollArea& area)
+        : m_widgets{&area, area.viewport()}
+    {
+        for (size_t i = 0; i < m_widgets.size(); ++i) {
+            m_were[i] = m_widgets[i]->testAttribute(Qt::WA_UpdatesDisabled);
+            m_widgets[i]->setAttribute(Qt::WA_UpdatesDisabled);
+        }
+    }
+
+    ~UpdateHold()
+    {
+        for (size_t i = 0; i < m_widgets.size(); ++i)
+            m_widgets[i]->setAttribute(Qt::WA_UpdatesDisabled, m_were[i]);
+    }
+
+    UpdateHold(const UpdateHold&) = delete;
+    UpdateHold& operator=(const UpdateHold&) = delete;
+
+private:
+    std::array<QWidget*, 2> m_widgets;
+    std::array<bool, 2> m_were;
+};
 
 } // namespace
 
@@ -117,13 +148,22 @@ void CMultiParamsTable::contextMenuEvent(QContextMenuEvent* event)
 
 void CMultiParamsTable::focusInEvent(QFocusEvent* event)
 {
+    // Without a current row Qt makes one current, and hosts hear of that.
+    std::optional<UpdateHold> hold;
+    if (currentIndex().isValid())
+        hold.emplace(*this);
     CEventWidgetT<QTableView>::focusInEvent(event);
+    hold.reset();
+    viewport()->update(d->rowRect(currentIndex().row()));
     d->interaction().focusIn(event);
 }
 
 void CMultiParamsTable::focusOutEvent(QFocusEvent* event)
 {
+    std::optional<UpdateHold> hold(std::in_place, *this);
     CEventWidgetT<QTableView>::focusOutEvent(event);
+    hold.reset();
+    viewport()->update(d->rowRect(currentIndex().row()));
     if (CellInteraction* interaction = d->interactionIfAny())
         interaction->focusOut(event);
 }

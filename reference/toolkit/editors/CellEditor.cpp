@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -24,65 +25,26 @@ constexpr int kCursorRoom = 1;
 // More than a person types, less than what makes the line slow.
 constexpr int kLongestText = 32767;
 
-// Of the field itself, so that no style sheet of the application reaches it.
-QString sheet(const QFont& font)
-{
-    return QStringLiteral("QLineEdit { border: none; padding: 0; margin: 0; min-height: 0; min-width: 0;"
-                          " background: transparent; color: %1; selection-background-color: %2; selection-color: %1;"
-                          " font-size: %3px; font-family: \"%4\"; }")
-        .arg(resources::color(keys::kValue).name(), resources::color(keys::kSelection).name())
-        .arg(font.pixelSize())
-        .arg(font.family());
-}
-
 } // namespace
 
-CellEditor::CellEditor(QWidget* viewport, CellEditorClient& client)
-    : QWidget(viewport)
-    , m_client(client)
-    , m_period(TimeRangeClock)
+CellEditor::CellEditor()
 {
     hide();
 }
 
-QLineEdit* CellEditor::makeField()
+void CellEditor::moveTo(QWidget& viewport, CellEditorClient& client)
 {
-    auto* line = new QLineEdit(this);
-    line->setFrame(false);
-    line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    line->setAttribute(Qt::WA_MacShowFocusRect, false);
-    line->installEventFilter(this);
-    connect(line, &QLineEdit::textChanged, this, [this] {
-        if (!m_loading)
-            m_client.draftChanged();
-    });
-    if (m_scale > 0)
-        restyle(*line);
-    return line;
-}
-
-void CellEditor::restyle()
-{
-    for (QLineEdit* line : m_fields) {
-        if (line)
-            restyle(*line);
-    }
-    update();
-}
-
-void CellEditor::restyle(QLineEdit& line) const
-{
-    line.setStyleSheet(sheet(m_font));
-    QPalette palette = line.palette();
-    palette.setColor(QPalette::PlaceholderText, resources::color(keys::kUnit));
-    line.setPalette(palette);
+    m_client = &client;
+    setParent(&viewport);
 }
 
 void CellEditor::open(const CellItem& cell, const QRect& area, const RowMetrics& metrics)
 {
+    m_idle = false;
     m_cell = &cell;
     m_wheelRest = 0;
     m_start = draftOf(cell);
+    takeLook(metrics.font);
     load(m_start);
     place(area, metrics);
     const bool isLine = cell.kind() == CellKind::Line;
@@ -93,12 +55,17 @@ void CellEditor::open(const CellItem& cell, const QRect& area, const RowMetrics&
     }
     show();
     raise();
+    // Before its row is: Qt paints what lets the ground show through once, with the ground, when it is marked first.
+    update();
 }
 
 void CellEditor::close()
 {
     m_cell = nullptr;
+    const QPointer<CellEditor> alive(this);
     hide();
+    if (alive && !m_cell)
+        m_idle = true;
 }
 
 void CellEditor::load(const Draft& draft)
@@ -145,7 +112,7 @@ void CellEditor::switchPeriod()
     m_fields[0]->selectAll();
     layOut();
     update();
-    m_client.draftChanged();
+    m_client->draftChanged();
 }
 
 int CellEditor::fieldCount() const
@@ -211,12 +178,8 @@ bool CellEditor::moveFocus(bool next)
 
 void CellEditor::place(const QRect& area, const RowMetrics& metrics)
 {
-    if (m_scale != metrics.scale) {
-        m_scale = metrics.scale;
-        m_gap = metrics.gap;
-        m_font = metrics.font;
-        restyle();
-    }
+    takeLook(metrics.font);
+    m_gap = metrics.gap;
     setGeometry(area.adjusted(-kInnerMargin, 0, kInnerMargin + kCursorRoom, 0));
     layOut();
 }
@@ -242,12 +205,13 @@ int CellEditor::fieldWidth(int room) const
     const int share = room / std::max(1, fieldCount());
     if (!m_cell || m_cell->kind() != CellKind::TimePeriod)
         return share;
-    return std::min(share, painting::textWidth(m_font, QStringLiteral("00:00:00")) + 2 * kInnerMargin + kCursorRoom);
+    return std::min(share,
+                    painting::textWidth(m_look.font, QStringLiteral("00:00:00")) + 2 * kInnerMargin + kCursorRoom);
 }
 
 void CellEditor::layOut()
 {
-    const int separatorWidth = painting::textWidth(m_font, separator());
+    const int separatorWidth = painting::textWidth(m_look.font, separator());
     const int width = fieldWidth(this->width() - separatorWidth);
     int right = this->width();
     for (int i = fieldCount() - 1; i >= 0; --i) {
@@ -257,7 +221,7 @@ void CellEditor::layOut()
             right -= separatorWidth;
     }
     m_separatorArea = QRect(right + width, 0, separatorWidth, height());
-    const int periodWidth = painting::textWidth(m_font, periodText());
+    const int periodWidth = painting::textWidth(m_look.font, periodText());
     const bool hasRoom = right >= periodWidth;
     m_periodArea = hasRoom ? QRect(std::max(0, right - m_gap - periodWidth), 0, periodWidth, height()) : QRect();
 }
@@ -265,10 +229,10 @@ void CellEditor::layOut()
 void CellEditor::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painting::drawText(painter, m_separatorArea, m_font, resources::color(keys::kUnit), Qt::AlignCenter,
+    painting::drawText(painter, m_separatorArea, m_look.font, resources::color(keys::kUnit), Qt::AlignCenter,
                        separator().trimmed());
-    painting::drawText(painter, m_periodArea, m_font, resources::color(keys::kUnit), Qt::AlignLeft | Qt::AlignVCenter,
-                       periodText());
+    painting::drawText(painter, m_periodArea, m_look.font, resources::color(keys::kUnit),
+                       Qt::AlignLeft | Qt::AlignVCenter, periodText());
 }
 
 // A press beside the fields has taken the focus from them.

@@ -2,6 +2,7 @@
 
 #include "reference/toolkit/editors/EditRules.h"
 
+#include <QColor>
 #include <QFont>
 #include <QWidget>
 
@@ -30,12 +31,22 @@ public:
 };
 
 /// The fields in which the value of one cell is edited, over the value's part of its row, whose ground shows through.
-/// One is made for a table when first needed and used for every cell after that.
+/// One is made when first needed and used for every cell after that, of whichever table: making one costs several times
+/// what opening it does, and it is seldom that two are open at a time.
 class WQ_EXPORT CellEditor : public QWidget
 {
     Q_OBJECT
 public:
-    CellEditor(QWidget* viewport, CellEditorClient& client);
+    /// It belongs to nobody before it is moved to a table.
+    CellEditor();
+
+    void moveTo(QWidget& viewport, CellEditorClient& client);
+
+    /// Whether nobody is using it: it is closed, and no event of that is still on its way.
+    bool isIdle() const
+    {
+        return m_idle;
+    }
 
     /// Shows the value of @p cell, all of it selected. The cell is not touched and must outlive the edit.
     void open(const CellItem& cell, const QRect& area, const RowMetrics& metrics);
@@ -63,7 +74,7 @@ public:
     QLineEdit* field() const;
 
     /// Takes the colours of the theme.
-    void restyle();
+    void themeChanged();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -73,9 +84,19 @@ protected:
 private:
     static constexpr int kMostFields = 2;
 
+    /// What the fields are painted with.
+    struct Look
+    {
+        QFont font; // not the widget's own, which a style sheet of the application may change
+        QColor value;
+        QColor selection;
+        QColor unit;
+    };
+
     int fieldCount() const;
     int focusedField() const;
     QLineEdit* makeField();
+    void takeLook(const QFont& font);
     void restyle(QLineEdit& line) const;
     void load(const Draft& draft);
     void layOut();
@@ -86,18 +107,18 @@ private:
     QString separator() const;
     int fieldWidth(int room) const;
 
-    CellEditorClient& m_client;
+    CellEditorClient* m_client = nullptr;
     const CellItem* m_cell = nullptr;
     std::array<QLineEdit*, kMostFields> m_fields{};
-    QFont m_font; // not the widget's own, which a style sheet of the application may change
+    Look m_look;
     QRect m_separatorArea;
     QRect m_periodArea;
     Draft m_start;
-    EWqTimeRangeType m_period;
-    double m_scale = 0;
+    EWqTimeRangeType m_period = TimeRangeClock;
     int m_gap = 0;
     int m_wheelRest = 0;
     bool m_loading = false;
+    bool m_idle = true;
 };
 
 } // namespace WQ

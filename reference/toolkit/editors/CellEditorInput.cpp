@@ -53,10 +53,10 @@ bool CellEditor::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Wheel:
         return wheel(static_cast<QWheelEvent&>(*event));
     case QEvent::FocusOut:
-        m_client.focusGone(static_cast<QFocusEvent*>(event)->reason());
+        m_client->focusGone(static_cast<QFocusEvent*>(event)->reason());
         return !alive;
     case QEvent::MouseButtonDblClick:
-        m_client.editorDoubleClicked();
+        m_client->editorDoubleClicked();
         return !alive;
     case QEvent::Hide:
         closeMenus(*watched);
@@ -73,18 +73,18 @@ bool CellEditor::keyPress(QKeyEvent& event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         event.accept();
-        m_client.submitted();
+        m_client->submitted();
         return true;
     case Qt::Key_Escape:
         event.accept();
-        m_client.reverted();
+        m_client->reverted();
         return true;
     case Qt::Key_Space:
-        return m_client.checkToggled();
+        return m_client->checkToggled();
     case Qt::Key_Up:
     case Qt::Key_Down:
         if (event.modifiers().testFlag(Qt::AltModifier))
-            m_client.alternativesAsked();
+            m_client->alternativesAsked();
         else
             step((isUp ? 1 : -1) * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1));
         return true;

@@ -14,22 +14,6 @@
 
 namespace WQ {
 
-CellInteraction::CellInteraction(CMultiParamsTablePrivate& table)
-    : m_table(table)
-{
-}
-
-// The widgets are children of the table, which would take them down later, when what they call has gone.
-CellInteraction::~CellInteraction()
-{
-    m_closing = true;
-    m_cell = nullptr;
-    delete m_notice;
-    delete m_filter;
-    delete m_choices;
-    delete m_editor;
-}
-
 CMultiParamsTable& CellInteraction::widget() const
 {
     return *m_table.table();
@@ -44,22 +28,24 @@ bool CellInteraction::beginEdit(CellItem& cell)
 {
     if (m_closing || !hasFields(cell.kind()) || !canEdit(cell))
         return false;
+    const QPointer<CMultiParamsTable> alive(&widget());
     if (m_cell != &cell) {
-        const QPointer<CMultiParamsTable> alive(&widget());
         finish(Ending::Commit);
         if (!alive)
             return false;
         m_table.setCurrentCell(cell);
+        if (!alive)
+            return false;
         makeVisible(cell);
-        if (!m_editor)
-            m_editor = new CellEditor(widget().viewport(), *this);
+        if (!gainEditor() || m_cell)
+            return false;
         m_cell = &cell;
         m_editor->open(cell, m_table.layoutOf(cell).value, m_table.metrics());
         m_table.update(cell);
     }
-    const QPointer<CellEditor> editor(m_editor);
-    m_editor->takeFocus();
-    return editor && m_cell == &cell;
+    if (m_cell == &cell)
+        m_editor->takeFocus();
+    return alive && m_cell == &cell;
 }
 
 void CellInteraction::storeDraft()
@@ -78,11 +64,11 @@ void CellInteraction::finish(Ending ending)
     const CellItem& cell = *std::exchange(m_cell, nullptr);
     hideWrong();
     m_table.update(cell);
-    const QPointer<CellEditor> editor(m_editor);
-    if (editor->ownsFocus())
+    const QPointer<CMultiParamsTable> alive(&widget());
+    if (m_editor->ownsFocus())
         widget().setFocus(Qt::OtherFocusReason);
-    if (editor && !m_cell)
-        editor->close();
+    if (alive && m_editor && !m_cell)
+        m_editor->close();
 }
 
 void CellInteraction::commitEditor()
@@ -238,7 +224,7 @@ void CellInteraction::enabledChanged()
 void CellInteraction::themeChanged()
 {
     if (m_editor)
-        m_editor->restyle();
+        m_editor->themeChanged();
     for (QWidget* shown :
          {static_cast<QWidget*>(m_choices), static_cast<QWidget*>(m_filter), static_cast<QWidget*>(m_notice)}) {
         if (shown)
@@ -270,7 +256,9 @@ QString CellInteraction::wrongText(const CellItem& cell) const
 
 void CellInteraction::makeVisible(const CellItem& cell) const
 {
-    widget().scrollTo(m_table.model().valueIndex(cell.id()));
+    // Qt repaints the row that it is asked to scroll to, moved or not.
+    if (!widget().viewport()->rect().contains(m_table.rowRect(cell)))
+        widget().scrollTo(m_table.model().valueIndex(cell.id()));
     const QRect row = m_table.rowRect(cell);
     for (QWidget* ancestor = widget().parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
         auto* area = qobject_cast<QScrollArea*>(ancestor);

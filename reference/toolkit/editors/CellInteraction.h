@@ -20,7 +20,8 @@ class FilterPopup;
 class Notice;
 
 /// What a person does with a cell table: moving, editing, choosing, filtering. Editor and popups are made when first
-/// needed and used again. The table forwards its events here; a function that answers true has taken the event.
+/// needed and used again, the editor by all tables. The table forwards its events here; a function that answers true
+/// has taken the event.
 ///
 /// A right text is committed on Enter, Tab, and whenever the edit ends otherwise than by Esc; a wrong one keeps the
 /// editor open on Enter and Tab, and is dropped when the edit ends.
@@ -78,6 +79,8 @@ private:
     CMultiParamsTable& widget() const;
     bool canEdit(const CellItem& cell) const;
     bool beginEdit(CellItem& cell);
+    bool gainEditor();
+    void bequeathEditor();
     void storeDraft();
     void finish(Ending ending);
     void showWrong();
@@ -110,7 +113,7 @@ private:
     void setMouseAt(const CellItem* cell, bool unit, bool footer);
 
     CMultiParamsTablePrivate& m_table;
-    QPointer<CellEditor> m_editor;
+    QPointer<CellEditor> m_editor; // while it is idle another table may take it
     QPointer<ChoicePopup> m_choices;
     QPointer<FilterPopup> m_filter;
     QPointer<Notice> m_notice;

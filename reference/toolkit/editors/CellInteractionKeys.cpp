@@ -151,7 +151,7 @@ bool CellInteraction::forwardKey(QKeyEvent& event)
         return true;
     }
     m_forwarding = true;
-    const QPointer<CellEditor> alive(m_editor);
+    const QPointer<CMultiParamsTable> alive(&widget());
     QKeyEvent copy(event);
     QCoreApplication::sendEvent(m_editor->field(), &copy);
     if (alive)

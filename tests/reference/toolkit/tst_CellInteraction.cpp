@@ -1,4 +1,5 @@
 #include "EditorPanel.h"
+#include "TableFixture.h"
 
 #include <QDialog>
 #include <QSignalSpy>
@@ -36,6 +37,8 @@ private Q_SLOTS:
     void disablingTheTableDropsTheEdit();
     void theEditorFollowsItsRow();
     void aNewThemeReachesTheOpenEditor();
+    void theFocusRepaintsTheCurrentRowAlone();
+    void anEditorIsPaintedOnceWithItsRowAlone();
 
 private:
     std::unique_ptr<EditorPanel> m_panel;
@@ -348,6 +351,37 @@ void tst_CellInteraction::aNewThemeReachesTheOpenEditor()
     QVERIFY(WQ::resources::setTheme(QStringLiteral("dark")));
     QVERIFY2(light.contains(QStringLiteral("#18212d")), qPrintable(light));
     QCOMPARE(m_panel->line()->styleSheet(), dark);
+}
+
+void tst_CellInteraction::theFocusRepaintsTheCurrentRowAlone()
+{
+    m_panel->focusRow(Cell::Least);
+    QCoreApplication::processEvents();
+    const QRect row = m_panel->inner().rowRect(m_panel->cell(Cell::Least));
+    for (QWidget* target : {static_cast<QWidget*>(m_panel->after), static_cast<QWidget*>(m_panel->table)}) {
+        table_fixture::EventCounter paints(m_panel->table->viewport(), QEvent::Paint);
+        target->setFocus();
+        QTRY_COMPARE(paints.count, 1);
+        QCOMPARE(paints.region.boundingRect(), row);
+    }
+    // What asks to be painted later still is.
+    table_fixture::EventCounter paints(m_panel->table->viewport(), QEvent::Paint);
+    m_panel->table->viewport()->update();
+    QTRY_COMPARE(paints.region.boundingRect(), m_panel->table->viewport()->rect());
+}
+
+void tst_CellInteraction::anEditorIsPaintedOnceWithItsRowAlone()
+{
+    m_panel->focusRow(Cell::Least);
+    QCoreApplication::processEvents();
+    table_fixture::EventCounter paints(m_panel->table->viewport(), QEvent::Paint);
+    m_panel->press(Qt::Key_F2);
+    table_fixture::EventCounter fieldPaints(m_panel->line(), QEvent::Paint);
+    QTRY_VERIFY(paints.count > 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(paints.count, 1);
+    QCOMPARE(fieldPaints.count, 1);
+    QCOMPARE(paints.region.boundingRect(), m_panel->inner().rowRect(m_panel->cell(Cell::Least)));
 }
 
 void tst_CellInteraction::enterWithoutARowPressesNoButton()
