@@ -66,7 +66,6 @@ QString pointed(std::uint64_t scaled, int decimals, bool negative)
         *--begin = static_cast<char16_t>(u'0' + scaled % 10);
         scaled /= 10;
     };
-    negative = negative && scaled != 0;
     for (int i = 0; i < decimals; ++i)
         putLow();
     if (decimals > 0)
@@ -77,6 +76,18 @@ QString pointed(std::uint64_t scaled, int decimals, bool negative)
     if (negative)
         *--begin = u'-';
     return QString(reinterpret_cast<const QChar*>(begin), static_cast<int>(end - begin));
+}
+
+// Most amounts of a record are zero; they share their texts.
+const QString& zero(int decimals)
+{
+    static const auto texts = [] {
+        std::array<QString, kMostDecimals + 1> all;
+        for (int i = 0; i <= kMostDecimals; ++i)
+            all[static_cast<std::size_t>(i)] = pointed(0, i, false);
+        return all;
+    }();
+    return texts[static_cast<std::size_t>(decimals)];
 }
 
 } // namespace
@@ -95,6 +106,8 @@ QString formatDoubleNumber(long double value, int decimals, FormatFlags, bool, c
     const Wide scaled = shift > 0 && shift < kRightShiftToZero ? ((product >> (shift - 1)) + 1) >> 1 : 0;
     if (shift <= 0 || scaled >> 64 != 0)
         return QString::number(number, 'f', decimals);
+    if (scaled == 0)
+        return zero(decimals);
     return pointed(static_cast<std::uint64_t>(scaled), decimals, std::signbit(number));
 }
 

@@ -78,6 +78,8 @@ private Q_SLOTS:
     void readingTheSameTextTwiceLeavesTheValuesOfTheFirst();
     void readingAnotherGroupKeepsTheFirst();
     void readingASecondTimeReplacesTheRowsItNames();
+    void rowsAreReadInAnyOrder();
+    void aTextTakesThePlaceOfAnyValue();
     void anIgnoredTextSendsNothingAndLeavesTheLayout();
     void whatIsWrittenReadsBack();
     void anyTextReadsAsWithLists();
@@ -159,6 +161,26 @@ void tst_CreditParameterString::readingASecondTimeReplacesTheRowsItNames()
     panel.table->setParam(QStringLiteral("22+22-726=A1-727=X1-728=5-729=6"));
     panel.table->setParam(QStringLiteral("22+22-728=9-730=1-731=2-727="));
     QCOMPARE(panel.remembered(), QStringLiteral("22: 726=A1, 727=, 728=9, 729=6, 730=1, 731=2"));
+}
+
+void tst_CreditParameterString::rowsAreReadInAnyOrder()
+{
+    CreditPanel panel;
+    panel.table->setParam(QStringLiteral("22+22-731=a-727=b-727=c-9=d-731=e-732=+22-730=f-8=g-733=h-731=i"));
+    QCOMPARE(panel.remembered(), QStringLiteral("22: 8=g, 9=d, 727=c, 730=f, 731=i, 732=, 733=h"));
+}
+
+void tst_CreditParameterString::aTextTakesThePlaceOfAnyValue()
+{
+    CreditPanel panel;
+    auto& rows = panel.table->m_savedValues[22];
+    rows = {{726, 5}, {727, QVariant()}, {728, 1.5}, {729, QStringLiteral("old")}};
+    const QString kept = rows[729].toString();
+    panel.table->setParam(QStringLiteral("23+22-726=a-727=b-728=c-729=d"));
+    QCOMPARE(panel.remembered(), QStringLiteral("22: 726=a, 727=b, 728=c, 729=d"));
+    for (const int row : {726, 727, 728, 729})
+        QCOMPARE(panel.table->m_savedValues[22][row].userType(), int(QMetaType::QString));
+    QCOMPARE(kept, QStringLiteral("old"));
 }
 
 void tst_CreditParameterString::anIgnoredTextSendsNothingAndLeavesTheLayout()

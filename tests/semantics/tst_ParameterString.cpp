@@ -39,6 +39,25 @@ QString writtenDown(double value)
     return QStringLiteral("f%1").arg(g_formatted.size());
 }
 
+QStringList g_texts;
+
+QString nextText(double)
+{
+    return g_texts.takeFirst();
+}
+
+/// What is written with every real's text put in its place afterwards.
+QString replaced(const COrderSetting& setting, const QStringList& texts)
+{
+    g_formatted.clear();
+    QStringList items = TC::parameterString(setting, writtenDown).split(QLatin1Char('+'));
+    for (QString& item : items) {
+        if (item.startsWith(QLatin1Char('f')))
+            item = texts.at(item.mid(1).toInt() - 1);
+    }
+    return items.join(QLatin1Char('+'));
+}
+
 double real(const QString& item)
 {
     return item == kInvalid ? kNotANumber : item.toDouble();
@@ -158,6 +177,7 @@ private Q_SLOTS:
     void lastThreeItemsAreTheCellWordsFiveThreeAndFour();
     void realFieldsGoThroughTheFormatterInItemOrder();
     void theFormatterSettlesTheTextWhateverItIs();
+    void textsOfAnyLengthAreKeptWhole();
     void aFreshRecord();
     void integersAtTheirEnds();
     void valuesThatCannotBeShown();
@@ -209,6 +229,23 @@ void tst_ParameterString::theFormatterSettlesTheTextWhateverItIs()
     QCOMPARE(longText.count(QChar(0x975E)), 14 * 5000);
     QCOMPARE(longText.count(QLatin1Char('+')), 40);
     QCOMPARE(longText.size(), 14 * 5000 + 40 + 27);
+}
+
+void tst_ParameterString::textsOfAnyLengthAreKeptWhole()
+{
+    constexpr int kReals = 14;
+    std::mt19937 random(42);
+    for (int i = 0; i < 3000; ++i) {
+        COrderSetting s = randomRecord(random);
+        if (i % 3 == 0) // every plain item as long as it can be
+            s.intField2 = s.intField3 = s.intField31 = s.cellWord1 = s.cellWord3 = s.cellWord4 = INT_MIN;
+        QStringList texts;
+        while (texts.size() < kReals)
+            texts << QString(int(random() % (1U << random() % 12)), QChar(ushort('a' + texts.size())));
+        g_texts = texts;
+        QCOMPARE(TC::parameterString(s, nextText), replaced(s, texts));
+        QVERIFY(g_texts.isEmpty());
+    }
 }
 
 void tst_ParameterString::aFreshRecord()

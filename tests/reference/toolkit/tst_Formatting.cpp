@@ -31,6 +31,14 @@ QString defined(double value, int decimals)
     return text;
 }
 
+/// How many random numbers a test takes: for a night ORDERPARAM_FORMATTED_NUMBERS asks for more.
+int numbersWanted(int usual)
+{
+    bool isNumber = false;
+    const int asked = qEnvironmentVariable("ORDERPARAM_FORMATTED_NUMBERS").toInt(&isNumber);
+    return isNumber ? asked : usual;
+}
+
 double fromBits(quint64 bits)
 {
     double value = 0;
@@ -54,6 +62,11 @@ private Q_SLOTS:
     void randomBitPatternsAreWrittenAsDefined();
     void randomPricesAreWrittenAsDefined();
     void everyTieOfThreeDecimalsGoesAwayFromZero();
+    void tiesAtAnyDecimalGoAwayFromZero();
+    void neighboursOfTiesGoTheirOwnWay();
+    void numbersTooLargeForOneWordAreWrittenAsDefined();
+    void whatVanishesIsZeroWithoutASign_data();
+    void whatVanishesIsZeroWithoutASign();
     void integersArePaddedToTheirWidth();
     void recordTextsAreUtf8();
     void secondsAndDateTimesAgree();
@@ -134,7 +147,7 @@ void tst_Formatting::theDecimalsStopAtTheirEnds()
 void tst_Formatting::randomBitPatternsAreWrittenAsDefined()
 {
     std::mt19937_64 random(20240520);
-    for (int i = 0; i < 60000; ++i) {
+    for (int i = 0, count = numbersWanted(60000); i < count; ++i) {
         quint64 bits = random();
         if (i % 2 == 0) { // amounts that a panel sees, from 2^-70 to 2^69
             const quint64 exponent = 1023 - 70 + random() % 140;
@@ -150,7 +163,7 @@ void tst_Formatting::randomBitPatternsAreWrittenAsDefined()
 void tst_Formatting::randomPricesAreWrittenAsDefined()
 {
     std::mt19937_64 random(7);
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0, count = numbersWanted(100000); i < count; ++i) {
         const double value = (static_cast<double>(random() % 2000001) - 1000000) / 1000.0;
         const int decimals = static_cast<int>(random() % 5);
         QCOMPARE(format(value, decimals), defined(value, decimals));
@@ -166,6 +179,103 @@ void tst_Formatting::everyTieOfThreeDecimalsGoesAwayFromZero()
         const QString text = QStringLiteral("%1.%2").arg(rounded / 1000).arg(rounded % 1000, 3, 10, QLatin1Char('0'));
         QCOMPARE(format(n / 16.0, 3), text);
         QCOMPARE(format(-n / 16.0, 3), QLatin1Char('-') + text);
+    }
+}
+
+namespace {
+
+/// A tie at @p decimals: an odd number of halves of the last decimal that is exact in binary.
+struct Tie
+{
+    Tie(quint64 random, int decimals)
+        : odd((random >> 34) * 2 + 1)
+        , value(std::ldexp(static_cast<double>(odd), -decimals - 1))
+    {
+    }
+
+    quint64 odd; ///< below 2^31
+    double value;
+};
+
+/// odd / 2^(decimals + 1) rounded away from zero, in integers: odd * 5^decimals halves of the last decimal.
+QString roundedAway(quint64 odd, int decimals)
+{
+    quint64 halves = odd;
+    quint64 unit = 1;
+    for (int i = 0; i < decimals; ++i) {
+        halves *= 5;
+        unit *= 10;
+    }
+    const quint64 last = (halves + 1) / 2;
+    if (decimals == 0)
+        return QString::number(last);
+    return QString::number(last / unit) + QLatin1Char('.')
+        + QString::number(last % unit).rightJustified(decimals, QLatin1Char('0'));
+}
+
+} // namespace
+
+void tst_Formatting::tiesAtAnyDecimalGoAwayFromZero()
+{
+    std::mt19937_64 random(11);
+    for (int i = 0, count = numbersWanted(40000); i < count; ++i) {
+        const int decimals = static_cast<int>(random() % 13);
+        const Tie tie(random(), decimals);
+        const QString text = roundedAway(tie.odd, decimals);
+        QCOMPARE(format(tie.value, decimals), text);
+        QCOMPARE(format(-tie.value, decimals), QLatin1Char('-') + text);
+    }
+}
+
+void tst_Formatting::neighboursOfTiesGoTheirOwnWay()
+{
+    std::mt19937_64 random(12);
+    for (int i = 0, count = numbersWanted(40000); i < count; ++i) {
+        const int decimals = static_cast<int>(random() % 5); // more are finer than the numbers' own steps
+        const Tie tie(random(), decimals);
+        const double below = std::nextafter(tie.value, 0.0);
+        const double above = std::nextafter(tie.value, 1e300);
+        QCOMPARE(format(above, decimals), roundedAway(tie.odd, decimals));
+        QCOMPARE(format(-above, decimals), defined(-above, decimals));
+        QCOMPARE(format(below, decimals), defined(below, decimals));
+        QVERIFY(format(below, decimals) != format(tie.value, decimals));
+    }
+}
+
+void tst_Formatting::numbersTooLargeForOneWordAreWrittenAsDefined()
+{
+    std::mt19937_64 random(13);
+    for (int i = 0, count = numbersWanted(40000); i < count; ++i) {
+        const int decimals = static_cast<int>(random() % 21);
+        // 64 bits of scaled digits end near 1.8e19, the integers that a double holds exactly near 9e15.
+        const double edge = i % 2 == 0 ? 18446744073709551616.0 / std::pow(10, decimals) : 9007199254740992.0;
+        const double value = edge * (1 + (static_cast<double>(random() % 2001) - 1000) * 1e-9);
+        QCOMPARE(format(value, decimals), defined(value, decimals));
+        QCOMPARE(format(-value, decimals), defined(-value, decimals));
+        const double large = static_cast<double>(random()) * std::ldexp(1.0, static_cast<int>(random() % 40) - 20);
+        QCOMPARE(format(large, decimals), defined(large, decimals));
+    }
+}
+
+void tst_Formatting::whatVanishesIsZeroWithoutASign_data()
+{
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no decimals") << 0 << QStringLiteral("0");
+    QTest::newRow("one decimal") << 1 << QStringLiteral("0.0");
+    QTest::newRow("three decimals") << 3 << QStringLiteral("0.000");
+    QTest::newRow("twenty decimals") << 20 << QStringLiteral("0.00000000000000000000");
+}
+
+void tst_Formatting::whatVanishesIsZeroWithoutASign()
+{
+    QFETCH(int, decimals);
+    QFETCH(QString, text);
+    constexpr double kSmallest = std::numeric_limits<double>::denorm_min();
+    constexpr double kSmallestNormal = std::numeric_limits<double>::min();
+    for (const double amount : {0.0, kSmallest, 7 * kSmallest, kSmallestNormal - kSmallest, kSmallestNormal, 4.9e-21}) {
+        QCOMPARE(format(amount, decimals), text);
+        QCOMPARE(format(-amount, decimals), text);
     }
 }
 
