@@ -4,6 +4,8 @@
 
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QHash>
+#include <QPair>
 
 #include <algorithm>
 
@@ -40,16 +42,45 @@ QString textFamily()
     return family;
 }
 
+QFont made(const FontRole& role, int pixels)
+{
+    QFont font(textFamily());
+    font.setPixelSize(pixels);
+    font.setWeight(role.weight);
+    return font;
+}
+
+using Fonts = QHash<QPair<int, int>, QFont>;
+
+Fonts& fonts()
+{
+    static auto* const all = new Fonts;
+    return *all;
+}
+
+// Copies of one font share what Qt looked up for it; another font that is equal looks it up again. Fonts hold their
+// engines, which must be gone before the application is.
+QFont shared(const FontRole& role, int pixels)
+{
+    if (!qGuiApp)
+        return made(role, pixels);
+    if (fonts().isEmpty())
+        qAddPostRoutine([] { fonts().clear(); });
+    QFont& font = fonts()[{role.weight, pixels}];
+    if (font.pixelSize() != pixels)
+        font = made(role, pixels);
+    return font;
+}
+
 } // namespace
 
 QFont font(const QString& key, double scale)
 {
     bool known = false;
     const FontRole role = ThemeStore::instance().font(key, known);
-    QFont font(textFamily());
-    font.setPixelSize(std::max(1, scaled(role.size, scale)));
-    font.setWeight(role.weight);
-    font.setUnderline(!known);
+    QFont font = shared(role, std::max(1, scaled(role.size, scale)));
+    if (!known)
+        font.setUnderline(true);
     return font;
 }
 

@@ -103,6 +103,7 @@ private Q_SLOTS:
     void aWrongThemeFileIsReportedOnceAndChangesNothing();
     void unknownKeysAnswerSomethingVisibleAndAreReportedOnce();
     void fontsAreSizedInPixels();
+    void fontsOfOneLookAreCopiesOfOne();
     void digitsAreTabular();
     void imagesAreTintedAndSharp();
     void imagesOfNoSizeAreEmpty();
@@ -353,6 +354,18 @@ void ResourcesTest::unknownKeysAnswerSomethingVisibleAndAreReportedOnce()
         const QImage image = resources::image(key, Qt::red, QSize(4, 4), 1.0).toImage();
         QCOMPARE(image.pixelColor(2, 2), QColor(0xff, 0x00, 0xff));
     }
+}
+
+void ResourcesTest::fontsOfOneLookAreCopiesOfOne()
+{
+    const QFont font = resources::font(keys::kTextFont, 1.0);
+    QVERIFY(resources::font(keys::kTextFont, 1.0).isCopyOf(font));
+    QVERIFY(!resources::font(keys::kTextFont, 2.0).isCopyOf(font));
+    QVERIFY(!resources::font(keys::kTitleFont, 1.0).isCopyOf(font));
+    QFont own = font;
+    own.setItalic(true);
+    QVERIFY(!resources::font(keys::kTextFont, 1.0).italic());
+    QVERIFY(resources::font(keys::kTextFont, 1.0).isCopyOf(font));
 }
 
 void ResourcesTest::fontsAreSizedInPixels()
