@@ -86,10 +86,7 @@ void CBaseTaskParamWidget::createExpandButton(EOrderType orderType, QBoxLayout* 
 
 void CBaseTaskParamWidget::createFacts(const CCodeOrderParam& param, QBoxLayout* root)
 {
-    auto* const line = new QFrame(this);
-    line->setFrameShape(QFrame::VLine);
-    line->setFrameShadow(QFrame::Raised);
-    root->addWidget(line, 2);
+    root->addWidget(createTaskLine(this), 2);
     auto* const box = new QVBoxLayout;
     box->setContentsMargins(5, 8, 5, 5);
     box->addWidget(createTaskFacts(param, this));

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void factsAreDisabledAndOfFixedSize();
     void aFactIsNeverBounded();
     void theLayoutIsAsDrawn();
+    void theLineIsRaised();
     void theModuleWidensTheTable();
     void theButtonIsHiddenForPlainOrders();
     void twoClicksBringTheFirstIconBack();
@@ -306,6 +307,32 @@ void tst_CBaseTaskParamWidget::aFactIsNeverBounded()
     QCOMPARE(DialogProbe(task).factTexts().value(5), QStringLiteral("    数量=2000000"));
     task.volume = INT_MIN;
     QCOMPARE(DialogProbe(task).factTexts().value(5), QStringLiteral("    数量=-2147483648"));
+}
+
+void tst_CBaseTaskParamWidget::theLineIsRaised()
+{
+    DialogProbe dialog(taskOf(2, 1));
+    QWidget* const line = dialog.layout()->itemAt(1)->widget();
+    QPalette shades;
+    shades.setColor(QPalette::Light, Qt::yellow);
+    shades.setColor(QPalette::Dark, Qt::green);
+    line->setPalette(shades);
+    dialog.show();
+    QCoreApplication::processEvents();
+    QImage image(line->size(), QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    line->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    const auto column = [&image](int x) {
+        QStringList colors;
+        for (int y = 1; y < image.height() - 1; ++y)
+            colors << image.pixelColor(x, y).name();
+        colors.removeDuplicates();
+        return colors.join(QLatin1Char(' '));
+    };
+    QCOMPARE(image.width(), 3);
+    QCOMPARE(column(0), QStringLiteral("#ffff00")); // light
+    QCOMPARE(column(1), QStringLiteral("#00ff00")); // dark
+    QCOMPARE(column(2), QStringLiteral("#ff00ff")); // nothing
 }
 
 void tst_CBaseTaskParamWidget::theLayoutIsAsDrawn()
