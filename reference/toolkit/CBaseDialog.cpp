@@ -1,8 +1,10 @@
 #include <WQ/CBaseDialog.h>
 
+#include "reference/toolkit/Painting.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPalette>
 #include <QPointer>
@@ -69,10 +71,10 @@ void CBaseDialog::onOK()
         accept();
 }
 
-void CBaseDialog::paintEvent(QPaintEvent*)
+void CBaseDialog::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), resources::color(keys::kWindow));
+    painting::fillRegion(painter, event->region(), resources::color(keys::kWindow));
 }
 
 } // namespace WQ

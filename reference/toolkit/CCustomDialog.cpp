@@ -20,7 +20,7 @@ void CCustomDialog::paintEvent(QPaintEvent* event)
 {
     CBaseDialog::paintEvent(event);
     QPainter painter(this);
-    painting::drawFrame(painter, rect(), resources::color(keys::kSeparator));
+    painting::drawOuterFrame(painter, rect(), resources::color(keys::kSeparator));
 }
 
 } // namespace WQ

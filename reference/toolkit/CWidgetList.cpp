@@ -1,9 +1,11 @@
 #include <WQ/CWidgetList.h>
 
+#include "reference/toolkit/Painting.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
 #include <QBoxLayout>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -96,10 +98,10 @@ void CWidgetList::themeChanged()
     update();
 }
 
-void CWidgetList::paintEvent(QPaintEvent*)
+void CWidgetList::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), resources::color(keys::kWindow));
+    painting::fillRegion(painter, event->region(), resources::color(keys::kWindow));
 }
 
 } // namespace WQ

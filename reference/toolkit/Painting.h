@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QFont>
 #include <QRect>
+#include <QRegion>
 #include <QString>
 
 class QHelpEvent;
@@ -18,8 +19,14 @@ double scaleOf(const QWidget* widget);
 /// The UI scale of a widget as far as a button's text may follow it.
 double buttonScaleOf(const QWidget* widget);
 
+/// Fills @p region, that of a paint event of a widget whose children cut it to pieces, and takes the painter's clip.
+void fillRegion(QPainter& painter, const QRegion& region, const QColor& color);
+
 /// A frame of one device pixel inside @p rect.
 void drawFrame(QPainter& painter, const QRect& rect, const QColor& color);
+
+/// The same around a widget whose children cut its region to pieces, and takes the painter's clip.
+void drawOuterFrame(QPainter& painter, const QRect& rect, const QColor& color);
 
 /// @p text on one line, with an ellipsis at its end where it does not fit.
 void drawText(QPainter& painter, const QRect& rect, const QFont& font, const QColor& color, Qt::Alignment alignment,

@@ -7,6 +7,7 @@
 
 #include <WQ/CFloatWidget.h>
 #include <WQ/CParameterCell.h>
+#include <WQ/CWidgetList.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -83,6 +84,8 @@ private Q_SLOTS:
     void itHasNoFrameAndNoLayoutOfItsOwn();
     void theTitleIsPaintedOverTheTop();
     void aLongTitleIsElided();
+    void theGroundIsWholeAroundOpaqueChildren_data();
+    void theGroundIsWholeAroundOpaqueChildren();
     void escapeCloses();
     void theTitleBarsButtonCloses();
     void theWindowManagerCloses();
@@ -142,6 +145,45 @@ void CFloatWidgetTest::theTitleIsPaintedOverTheTop()
     const QRect below(0, 36, 200, 64);
     QCOMPARE(after.copy(below), before.copy(below));
     QVERIFY(after != before);
+}
+
+void CFloatWidgetTest::theGroundIsWholeAroundOpaqueChildren_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::newRow("1") << 1.0;
+    QTest::newRow("1.25") << 1.25;
+    QTest::newRow("1.5") << 1.5;
+    QTest::newRow("2") << 2.0;
+}
+
+void CFloatWidgetTest::theGroundIsWholeAroundOpaqueChildren()
+{
+    QFETCH(double, ratio);
+    constexpr int kWidth = 300;
+    constexpr int kHeight = 200;
+    Dialog dialog(false, nullptr);
+    dialog.resize(kWidth, kHeight);
+    auto* list = new CWidgetList(Qt::Vertical, &dialog);
+    list->setGeometry(100, 40, 180, 120);
+    for (int i = 0; i < 4; ++i) {
+        auto* cell = new CParameterCell(0, QString(), QString(), i % 2 == 0 ? static_cast<QWidget*>(list) : &dialog);
+        cell->setGeometry(7, 9 + 23 * i, 150, 22);
+        cell->setEnabled(false);
+    }
+    QImage image(QSize(kWidth, kHeight) * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::magenta);
+    dialog.render(&image);
+    const QRect inner = image.rect().adjusted(1, 1, -1, -1);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor color = image.pixelColor(x, y);
+            if (!inner.contains(x, y))
+                QCOMPARE(color, resources::color(keys::kSeparator));
+            else
+                QVERIFY(color == resources::color(keys::kWindow) || color == resources::color(keys::kInput));
+        }
+    }
 }
 
 void CFloatWidgetTest::aLongTitleIsElided()
