@@ -26,6 +26,7 @@ class CScrollAreaPrivate
 public:
     explicit CScrollAreaPrivate(CScrollArea* area)
         : bar(new SlimScrollBar(Qt::Vertical, ground, area))
+        , acrossBar(new SlimScrollBar(Qt::Horizontal, ground, area))
     {
     }
 
@@ -34,16 +35,17 @@ public:
 
     QString ground = keys::kWindow;
     SlimScrollBar* const bar;
-    double rest = 0; ///< of a pixel, that a slow wheel has not scrolled yet
-    QSize barHint;   ///< of the bar as it stands
+    SlimScrollBar* const acrossBar;
+    double rest = 0;   ///< of a pixel, that a slow wheel has not scrolled yet
+    int barWidth = -1; ///< of the bar as it stands
 };
 
 // What is laid out follows the sizes of the area and of its widget, and Qt acts on each of them as it changes; of a
-// request only the bar's own size is new.
+// request only the bar's own width is new.
 bool CScrollAreaPrivate::isLaidOut(const CScrollArea& area)
 {
-    const QSize hint = bar->sizeHint();
-    return std::exchange(barHint, hint) == hint && !area.widgetResizable();
+    const int width = bar->thickness();
+    return std::exchange(barWidth, width) == width && !area.widgetResizable();
 }
 
 int CScrollAreaPrivate::wheelPixels(const QWheelEvent& event)
@@ -66,6 +68,8 @@ CScrollArea::CScrollArea(QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(false);
     setVerticalScrollBar(d->bar);
+    // Never seen, but asked for its size at each layout; Qt's own asks the style then.
+    setHorizontalScrollBar(d->acrossBar);
     // Content is as wide as the area or narrower by the bar; in between a second bar would only flicker.
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
@@ -83,6 +87,7 @@ void CScrollArea::setBackgroundColorKey(QString key)
 {
     d->ground = key;
     d->bar->setGroundKey(key);
+    d->acrossBar->setGroundKey(key);
     viewport()->update();
 }
 

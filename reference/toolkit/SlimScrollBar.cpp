@@ -3,6 +3,7 @@
 #include "reference/toolkit/Painting.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
+#include "reference/toolkit/ThemeStore.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -11,6 +12,23 @@
 #include <utility>
 
 namespace WQ {
+
+namespace {
+
+// The areas ask for these sizes at each of their layouts; the themes share them, and they stay.
+int barSize(const QWidget* bar)
+{
+    static const double size = ThemeStore::instance().size(keys::kScrollBar);
+    return resources::scaled(size, painting::scaleOf(bar));
+}
+
+int handleSize(const QWidget* bar)
+{
+    static const double size = ThemeStore::instance().size(keys::kScrollHandleLength);
+    return resources::scaled(size, painting::scaleOf(bar));
+}
+
+} // namespace
 
 SlimScrollBar::SlimScrollBar(Qt::Orientation orientation, QString groundKey, QWidget* parent)
     : QScrollBar(orientation, parent)
@@ -28,12 +46,12 @@ void SlimScrollBar::setGroundKey(const QString& key)
 
 int SlimScrollBar::thickness() const
 {
-    return resources::size(keys::kScrollBar, painting::scaleOf(this));
+    return barSize(this);
 }
 
 int SlimScrollBar::shortestHandle() const
 {
-    return resources::size(keys::kScrollHandleLength, painting::scaleOf(this));
+    return handleSize(this);
 }
 
 QSize SlimScrollBar::sizeHint() const

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void theBarIsSlimAndScaled();
     void inADialogTheBarKeepsItsSize();
     void theBarShowsWhereItIsNeeded();
+    void contentFollowsWithoutARequestAndWithOne();
     void theGroundHasItsKey();
     void aNotchScrollsTwoRows();
     void aFineWheelScrollsByItsPixels();
@@ -127,6 +128,30 @@ void CScrollAreaTest::theBarShowsWhereItIsNeeded()
     a.content->setFixedSize(100, 101);
     QTRY_VERIFY(a.bar().isVisible());
     QVERIFY(!a.area.horizontalScrollBar()->isVisible());
+}
+
+void CScrollAreaTest::contentFollowsWithoutARequestAndWithOne()
+{
+    Area a;
+    a.content->setMinimumSize(0, 0);
+    a.content->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    QCoreApplication::processEvents();
+    a.content->resize(94, 500);
+    QCOMPARE(a.bar().maximum(), 400);
+    a.content->setFixedHeight(700);
+    QCoreApplication::processEvents();
+    QCOMPARE(a.bar().maximum(), 600);
+    a.bar().setValue(600);
+    a.content->setFixedHeight(150);
+    QCoreApplication::processEvents();
+    QCOMPARE(a.bar().maximum(), 50);
+    QCOMPARE(a.content->y(), -50);
+    // A host that has the content follow the area instead gets it laid out at the next request.
+    a.area.setWidgetResizable(true);
+    a.content->setMinimumHeight(300);
+    a.content->setMaximumHeight(QWIDGETSIZE_MAX);
+    QCoreApplication::processEvents();
+    QCOMPARE(a.content->height(), 300);
 }
 
 void CScrollAreaTest::theGroundHasItsKey()
