@@ -11,6 +11,7 @@
 #include <WQ/CScrollArea.h>
 #include <WQ/CWidgetList.h>
 
+#include <QHash>
 #include <QSet>
 
 namespace TC {
@@ -19,7 +20,7 @@ using namespace ttservice;
 
 namespace {
 
-QSet<int> cellsOf(quint32 word)
+QSet<int> madeCells(quint32 word)
 {
     QSet<int> cells;
     for (int bit = 0; bit < kCellBits; ++bit) {
@@ -27,6 +28,20 @@ QSet<int> cellsOf(quint32 word)
             cells.insert(1 << bit);
     }
     return cells;
+}
+
+constexpr int kSetsKept = 64;
+
+// Panels show the same few sets of cells again and again, and share them.
+QSet<int> cellsOf(quint32 word)
+{
+    static QHash<quint32, QSet<int>> sets;
+    const auto found = sets.constFind(word);
+    if (found != sets.constEnd())
+        return *found;
+    if (sets.size() >= kSetsKept)
+        sets.clear();
+    return *sets.insert(word, madeCells(word));
 }
 
 } // namespace
@@ -45,10 +60,11 @@ quint32 COrderParamBaseTable::hideCellsByRules()
     const auto* const volume = dynamic_cast<const WQ::CComboBoxDelegate*>(m_table->getItem(OCF_BaseVolume));
     const CellVisibilityState cells{m_id, m_orderType, m_flags, bSuperPriceStartHide(),
                                     volume && volume->currentData().toInt() == VOLUME_TYPE_REMAINING};
+    const ModuleQuery modules = isModuleOn;
     quint32 visible = 0;
     for (int bit = 0; bit < kCellBits; ++bit) {
         const int cell = 1 << bit;
-        const bool isVisible = isCellVisible(cell, cells, isModuleOn);
+        const bool isVisible = isCellVisible(cell, cells, modules);
         if (isHiddenByRules(cell))
             m_table->setItemHidden(cell, !isVisible);
         if (isVisible)
