@@ -27,9 +27,12 @@ bool isNumber(const QVariant& value)
 // QVariant's own comparison converts, so that the text "5" would be the number 5, and "" the number 0.
 bool isSame(const QVariant& left, const QVariant& right)
 {
+    const int type = left.userType();
+    if (type == QMetaType::Int && right.userType() == type)
+        return left.toInt() == right.toInt();
     if (isNumber(left) && isNumber(right))
         return left.toDouble() == right.toDouble();
-    return left.isValid() && left.userType() == right.userType() && left == right;
+    return left.isValid() && right.userType() == type && left == right;
 }
 
 } // namespace
