@@ -136,6 +136,7 @@ QAbstractButton* buttonWithinReach(const Object& object, int id)
     if (!group || isHiddenIn(object, group))
         return nullptr;
     if (id == kHelpButton) {
+        group->resetLayout(); // which makes the button, were the strip not laid out yet
         QAbstractButton* help = helpButton(*group);
         return help && !help->isHidden() ? help : nullptr;
     }

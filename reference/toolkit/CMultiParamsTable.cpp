@@ -55,6 +55,19 @@ const Cell* cellAs(const CMultiParamsTablePrivate& table, int id, CellKind kind)
     return cell && cell->kind() == kind ? static_cast<const Cell*>(cell) : nullptr;
 }
 
+// An open list follows at once: when the choice is the old one in the end, nothing else tells it of new entries.
+template <class Change>
+void changeChoice(CMultiParamsTablePrivate& table, int id, const Change& change)
+{
+    CellItem* const cell = table.model().cell(id);
+    if (!cell || cell->kind() != CellKind::Combo)
+        return;
+    const QString before = cell->text();
+    if (change(static_cast<ComboCell&>(*cell)))
+        table.model().touchChoice(cell, before);
+    table.changedUnseen(*cell);
+}
+
 qint64 clientTime()
 {
     const TC::CTimeService* service = TC::getTimeService();
@@ -182,7 +195,8 @@ void CMultiParamsTable::resetCellRange(int id, double min, double max)
 
 void CMultiParamsTable::setItemDouble(int id, double value)
 {
-    d->change(id, [=](CellItem& cell) { return cell.setNumber(value); });
+    d->change(
+        id, [=](CellItem& cell) { return cell.setNumber(value); }, CellChange::Value);
 }
 
 void CMultiParamsTable::setItemInt(int id, int value)
@@ -202,22 +216,19 @@ void CMultiParamsTable::setCheckDouble(int id, bool checked, double value, bool)
 
 void CMultiParamsTable::setComboData(int id, QVariant value)
 {
-    d->change(id, [&value](CellItem& cell) {
-        return cell.kind() == CellKind::Combo && static_cast<ComboCell&>(cell).setData(value);
-    });
+    changeChoice(*d, id, [&value](ComboCell& cell) { return cell.setData(value); });
 }
 
 void CMultiParamsTable::resetComboData(int id, const QStringList& texts, const QVector<QVariant>& values,
                                        int currentIndex)
 {
-    d->change(id, [&](CellItem& cell) {
-        return cell.kind() == CellKind::Combo && static_cast<ComboCell&>(cell).setEntries(texts, values, currentIndex);
-    });
+    changeChoice(*d, id, [&](ComboCell& cell) { return cell.setEntries(texts, values, currentIndex); });
 }
 
 void CMultiParamsTable::setItemText(int id, QString text)
 {
-    d->change(id, [&text](CellItem& cell) { return cell.setText(text); });
+    d->change(
+        id, [&text](CellItem& cell) { return cell.setText(text); }, CellChange::Value);
 }
 
 void CMultiParamsTable::setItemName(int id, QString name)

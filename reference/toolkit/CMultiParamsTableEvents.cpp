@@ -57,6 +57,12 @@ private:
     std::array<bool, 2> m_were;
 };
 
+bool hasNoBars(const QAbstractScrollArea& area)
+{
+    return area.verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff
+        && area.horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff;
+}
+
 } // namespace
 
 CMultiParamsTable::CMultiParamsTable(QWidget* parent, bool fontScale)
@@ -71,6 +77,13 @@ CMultiParamsTable::~CMultiParamsTable() = default;
 
 bool CMultiParamsTable::event(QEvent* event)
 {
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange)
+        d->leastSize() = QSize();
+    // All that Qt would lay out is the viewport, but it asks the style for bars first that are never seen.
+    if (event->type() == QEvent::Resize && hasNoBars(*this)) {
+        viewport()->setGeometry(rect());
+        return true;
+    }
     const bool handled = CEventWidgetT<QTableView>::event(event);
     // An application's style sheet may put a frame and padding around any scroll area. Qt lays the area out in here.
     if (viewport()->geometry() != rect())
@@ -178,6 +191,12 @@ void CMultiParamsTable::hideEvent(QHideEvent* event)
     if (CellInteraction* interaction = d->interactionIfAny())
         interaction->hidden();
     CEventWidgetT<QTableView>::hideEvent(event);
+}
+
+void CMultiParamsTable::setSelectionModel(QItemSelectionModel* selectionModel)
+{
+    // Not QTableView's: the headers have no model that a selection could be of.
+    QAbstractItemView::setSelectionModel(selectionModel);
 }
 
 void CMultiParamsTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)

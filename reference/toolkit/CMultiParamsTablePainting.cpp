@@ -1,16 +1,28 @@
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
+#include "reference/toolkit/cells/TextCache.h"
+#include "reference/toolkit/cells/TextFace.h"
 #include "reference/toolkit/editors/CellInteraction.h"
 
 #include <QApplication>
+#include <QBackingStore>
+#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QScrollBar>
+
+#include <algorithm>
 
 namespace WQ {
 
 namespace {
 
 constexpr int kLongestToolTip = 1000;
+
+// A picture that somebody takes of the table leaves the screen as it was.
+bool isOnScreen(const QWidget& table, const QPainter& painter)
+{
+    QBackingStore* const screen = table.backingStore();
+    return screen && painter.paintEngine()->paintDevice() == screen->paintDevice();
+}
 
 } // namespace
 
@@ -50,26 +62,97 @@ void CMultiParamsTablePrivate::paint(QPaintEvent* event)
 {
     QPainter painter(m_table->viewport());
     const QRect dirty = event->rect();
-    const int rows = m_model->rowCount();
-    const int column = labelColumn();
-    for (int row = 0; row < rows; ++row) {
-        const QRect rect = rowRect(row);
-        if (!rect.intersects(dirty))
-            continue;
-        const CellItem& cell = *m_model->cellAtRow(row);
-        paintRow(painter, rect, cell, layoutRow(cell, rect, m_metrics, column), m_metrics, rowState(cell));
-    }
+    CellPainter cells(painter, m_metrics, dirty);
+    paintRows(cells, dirty, isOnScreen(*m_table, painter));
+    if (event->region().rectCount() > 1)
+        m_painted.clear();
     const QRect footer = footerRect();
     if (footer.intersects(dirty)) {
         FooterState state = m_interaction ? m_interaction->footerState() : FooterState();
         state.enabled = isFilterEnabled();
         state.active = !m_model->visibleSet().isEmpty();
-        paintFooter(painter, footer, m_metrics, state);
+        cells.paintFooter(footer, state);
     }
-    const int end = rows * m_metrics.rowHeight - m_table->verticalScrollBar()->value() + footer.height();
+    const int end = rowTop(m_model->rowCount()) + footer.height();
     const QRect ground = m_table->viewport()->rect().adjusted(0, end, 0, 0);
     if (ground.isValid() && ground.intersects(dirty))
-        paintGround(painter, ground);
+        cells.paintGround(ground);
+}
+
+void CMultiParamsTablePrivate::paintRows(CellPainter& cells, const QRect& dirty, bool onScreen)
+{
+    const int column = labelColumn();
+    const int first = std::max(0, (dirty.top() - rowTop(0)) / m_metrics.rowHeight);
+    const int last = std::min(m_model->rowCount() - 1, (dirty.bottom() - rowTop(0)) / m_metrics.rowHeight);
+    m_painted.resize(static_cast<std::size_t>(m_model->rowCount()));
+    for (int row = first; row <= last; ++row) {
+        const QRect rect = rowRect(row);
+        const CellItem& cell = *m_model->cellAtRow(row);
+        const RowLayout layout = layoutRow(cell, rect, m_metrics, column);
+        if (onScreen)
+            notePainted(row, paintedValue(cell, layout), dirty);
+        cells.paintRow(rect, cell, layout, rowState(cell));
+    }
+}
+
+CMultiParamsTablePrivate::PaintedValue CMultiParamsTablePrivate::paintedValue(const CellItem& cell,
+                                                                              const RowLayout& layout)
+{
+    const bool isPlain = !layout.elided && layout.check.isEmpty() && cell.offGridText().isEmpty();
+    const QRect room(layout.value.left(), 0, layout.value.width(), layout.value.height());
+    return isPlain ? PaintedValue{true, room, layout.valueText} : PaintedValue();
+}
+
+// A paint of less than what has changed leaves the row without a painted value to start from.
+void CMultiParamsTablePrivate::notePainted(int row, const PaintedValue& value, const QRect& dirty)
+{
+    PaintedValue& known = m_painted[static_cast<std::size_t>(row)];
+    const QRect whole = rowRect(row);
+    const bool isSamePlace = known.isSet && value.isSet && known.room == value.room;
+    if (dirty.contains(whole)
+        || (isSamePlace && dirty.contains(valueRect(known, value.text).translated(0, whole.top()))))
+        known = value;
+    else if (!isSamePlace || known.text != value.text)
+        known = PaintedValue();
+}
+
+// What has to be painted of a row whose cell has changed. What is known of the painted value holds until then.
+QRect CMultiParamsTablePrivate::changedRect(int row)
+{
+    const QRect whole = rowRect(row);
+    const CellItem* cell = m_model->cellAtRow(row);
+    if (!cell || static_cast<std::size_t>(row) >= m_painted.size())
+        return whole;
+    PaintedValue& painted = m_painted[static_cast<std::size_t>(row)];
+    const QString text = texts::oneLine(cell->displayText());
+    const bool isValueAlone = painted.isSet && cell->announcedChange() == CellChange::Value
+        && cell->offGridText().isEmpty() && texts::width(text, *m_metrics.face) <= painted.room.width();
+    if (!isValueAlone) {
+        painted = PaintedValue();
+        return whole;
+    }
+    return valueRect(painted, text).translated(0, whole.top());
+}
+
+QRect CMultiParamsTablePrivate::valueRect(const PaintedValue& painted, const QString& text) const
+{
+    const auto difference = m_metrics.face->difference(painted.text, text);
+    if (!difference)
+        return painted.room;
+    const int left = painted.room.right() + 1 - texts::width(text, *m_metrics.face) + difference->left;
+    return QRect(left, painted.room.top(), difference->width, painted.room.height());
+}
+
+void CMultiParamsTablePrivate::rowsChanged(int first, int last)
+{
+    QRect changed;
+    for (int row = first; row <= last; ++row)
+        changed |= changedRect(row);
+    m_table->viewport()->update(changed);
+    for (int row = first; m_interaction && row <= last; ++row) {
+        if (const CellItem* cell = m_model->cellAtRow(row))
+            m_interaction->cellChanged(*cell);
+    }
 }
 
 } // namespace WQ

@@ -6,10 +6,9 @@
 
 #include <QAbstractButton>
 #include <QHeaderView>
-#include <QItemSelectionModel>
-#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
@@ -23,14 +22,23 @@ double tableScale(bool fontScale)
     return fontScale ? resources::scale() : 1.0;
 }
 
-// A header that gets a model makes itself a selection model and keeps it, connected to the model, when the table gives
-// it the one that all three share.
-void dropSpareSelections(const QTableView& table)
+struct HeaderSections : QHeaderView
 {
-    for (QHeaderView* header : {table.horizontalHeader(), table.verticalHeader()}) {
-        const auto own = header->findChildren<QItemSelectionModel*>(QString(), Qt::FindDirectChildrenOnly);
-        qDeleteAll(own);
-    }
+    using QHeaderView::initializeSections;
+};
+
+// Gives the header @p count sections, all of its default size, without a model to ask. A layout that it still owes
+// would take them away again, and asking for its length makes it pay.
+void takeSections(QHeaderView& header, int count)
+{
+    const QSignalBlocker quiet(&header);
+    header.length();
+    if (header.count() == count)
+        return;
+    if (count > 0)
+        (header.*static_cast<void (QHeaderView::*)(int, int)>(&HeaderSections::initializeSections))(0, count - 1);
+    else
+        header.reset();
 }
 
 } // namespace
@@ -45,8 +53,8 @@ CMultiParamsTablePrivate::CMultiParamsTablePrivate(CMultiParamsTable* table, boo
 
 CMultiParamsTablePrivate::~CMultiParamsTablePrivate() = default;
 
-// The headers stay hidden: they hold row heights and column widths for whoever asks Qt's own way. What they would tell
-// the table is taken from them, since each of their changes costs a layout and a paint of its own.
+// The headers stay hidden: they hold row heights and column widths for whoever asks Qt's own way. They get no model,
+// which would cost the table more than all the rest of its making: their sections are told to them (placeSections()).
 void CMultiParamsTablePrivate::setUpView()
 {
     m_table->setFrameShape(QFrame::NoFrame);
@@ -69,11 +77,9 @@ void CMultiParamsTablePrivate::setUpView()
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setMinimumSectionSize(0);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(m_metrics.rowHeight);
-    m_table->horizontalHeader()->disconnect(m_table);
-    m_table->verticalHeader()->disconnect(m_table);
-    m_table->setModel(m_model);
-    dropSpareSelections(*m_table);
+    takeRowHeight();
+    m_table->QAbstractItemView::setModel(m_model);
+    placeSections();
     connectModel();
 }
 
@@ -81,19 +87,31 @@ void CMultiParamsTablePrivate::connectModel()
 {
     m_model->setToolTipSource([this](const CellItem& cell) { return toolTipOf(cell); });
     QObject::connect(m_model, &CellModel::filterChanged, m_table, [this] { filterChanged(); });
+    QObject::connect(m_model, &CellModel::filterLookChanged, m_table, [this] { updateFooter(); });
     QObject::connect(m_model, &CellModel::rowsReplaced, m_table, [this] {
+        placeSections();
         takeNeededHeight();
         layout();
         m_table->viewport()->update();
     });
-    QObject::connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, m_table,
-                     [this](int column, int, int width) {
-                         if (column != CellModel::LabelColumn || m_placingColumns)
-                             return;
-                         m_hostColumn = width;
-                         placeColumns();
-                         m_table->viewport()->update();
-                     });
+    QHeaderView* const header = m_table->horizontalHeader();
+    QObject::connect(header, &QHeaderView::sectionResized, m_table, [this](int column, int, int width) {
+        if (column != CellModel::LabelColumn)
+            return;
+        m_hostColumn = width;
+        placeColumns();
+        m_table->viewport()->update();
+    });
+    // A header that is polished anew asks the model that it lacks.
+    for (QHeaderView* one : {header, m_table->verticalHeader()})
+        QObject::connect(one, &QHeaderView::sectionCountChanged, m_table, [this] { placeSections(); });
+}
+
+void CMultiParamsTablePrivate::placeSections()
+{
+    takeSections(*m_table->horizontalHeader(), m_model->columnCount());
+    takeSections(*m_table->verticalHeader(), m_model->rowCount());
+    placeColumns();
 }
 
 CellInteraction& CMultiParamsTablePrivate::interaction()
@@ -111,12 +129,16 @@ int CMultiParamsTablePrivate::add(std::unique_ptr<CMultiParamsTableItem> item)
     return position;
 }
 
+int CMultiParamsTablePrivate::rowTop(int row) const
+{
+    return row * m_metrics.rowHeight - m_table->verticalScrollBar()->value();
+}
+
 QRect CMultiParamsTablePrivate::rowRect(int row) const
 {
     if (row < 0 || row >= m_model->rowCount())
         return QRect();
-    const int top = row * m_metrics.rowHeight - m_table->verticalScrollBar()->value();
-    return QRect(0, top, m_table->viewport()->width(), m_metrics.rowHeight);
+    return QRect(0, rowTop(row), m_table->viewport()->width(), m_metrics.rowHeight);
 }
 
 QRect CMultiParamsTablePrivate::rowRect(const CellItem& cell) const
@@ -145,8 +167,7 @@ QRect CMultiParamsTablePrivate::footerRect() const
 {
     if (!m_footerVisible)
         return QRect();
-    const int top = m_model->rowCount() * m_metrics.rowHeight - m_table->verticalScrollBar()->value();
-    return QRect(0, top, m_table->viewport()->width(), m_metrics.footerHeight);
+    return QRect(0, rowTop(m_model->rowCount()), m_table->viewport()->width(), m_metrics.footerHeight);
 }
 
 int CMultiParamsTablePrivate::contentHeight() const
@@ -162,18 +183,27 @@ int CMultiParamsTablePrivate::labelColumn() const
         m_widestLabel = 0;
         for (int i = 0; i < m_model->cellCount(); ++i) {
             const QString label = texts::oneLine(m_model->itemAt(i)->cell()->label());
-            m_widestLabel = std::max(m_widestLabel, texts::width(label, m_metrics.font));
+            m_widestLabel = std::max(m_widestLabel, texts::width(label, *m_metrics.face));
         }
     }
     // A label of any length leaves the values a third of the row.
     return std::min(m_metrics.padding + m_widestLabel, m_table->viewport()->width() * 2 / 3);
 }
 
+void CMultiParamsTablePrivate::takeRowHeight()
+{
+    QHeaderView* const rows = m_table->verticalHeader();
+    const QSignalBlocker quiet(rows);
+    rows->setDefaultSectionSize(m_metrics.rowHeight);
+}
+
 void CMultiParamsTablePrivate::placeColumns()
 {
-    const QScopedValueRollback<bool> placing(m_placingColumns, true);
     QHeaderView* header = m_table->horizontalHeader();
+    const QSignalBlocker quiet(header);
     const int label = labelColumn();
+    if (header->sectionSize(CellModel::LabelColumn) != label)
+        m_table->viewport()->update();
     header->resizeSection(CellModel::LabelColumn, label);
     header->resizeSection(CellModel::ValueColumn, std::max(0, m_table->viewport()->width() - label));
 }
@@ -191,6 +221,7 @@ void CMultiParamsTablePrivate::takeNeededHeight()
 
 void CMultiParamsTablePrivate::layout()
 {
+    m_painted.clear();
     placeColumns();
     QScrollBar* scroll = m_table->verticalScrollBar();
     // The viewport's height is what a style sheet's frame leaves, until the table takes the frame back: a range that
@@ -222,7 +253,8 @@ void CMultiParamsTablePrivate::takeScale()
         return;
     m_metrics = RowMetrics(scale);
     m_widestLabel = -1;
-    m_table->verticalHeader()->setDefaultSectionSize(m_metrics.rowHeight);
+    takeRowHeight();
+    placeSections();
     layout();
     m_table->viewport()->update();
 }
@@ -249,19 +281,8 @@ void CMultiParamsTablePrivate::updateFooter()
 
 void CMultiParamsTablePrivate::filterChanged()
 {
-    if (m_table->isVisible())
-        updateFooter();
     if (m_interaction)
         m_interaction->filterChanged();
-}
-
-void CMultiParamsTablePrivate::rowsChanged(int first, int last)
-{
-    m_table->viewport()->update(rowRect(first).united(rowRect(last)));
-    for (int row = first; m_interaction && row <= last; ++row) {
-        if (const CellItem* cell = m_model->cellAtRow(row))
-            m_interaction->cellChanged(*cell);
-    }
 }
 
 void CMultiParamsTablePrivate::changedUnseen(const CellItem& cell)

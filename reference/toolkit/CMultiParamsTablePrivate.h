@@ -111,6 +111,12 @@ public:
 
     void setFooterVisible(bool visible);
 
+    /// What Qt's style leaves the table at least; invalid until it was asked, and after each change of the style.
+    QSize& leastSize()
+    {
+        return m_leastSize;
+    }
+
     /// The filter can be used: footer there, table collapsed, cells and widget enabled.
     bool isFilterEnabled() const;
 
@@ -131,15 +137,16 @@ public:
     void changedUnseen(const CellItem& cell);
     int add(std::unique_ptr<CMultiParamsTableItem> item);
 
+    /// @p what says what of the cell a person may see change.
     template <class Change>
-    bool change(int id, Change change)
+    bool change(int id, Change change, CellChange what = CellChange::All)
     {
         CellItem* cell = m_model->cell(id);
         if (!cell)
             return false;
         const bool seen = change(*cell);
         if (seen)
-            m_model->touch(cell);
+            m_model->touch(cell, what);
         else
             changedUnseen(*cell);
         return seen;
@@ -147,8 +154,24 @@ public:
     /// @}
 
 private:
+    /// What a row as it was painted last shows of its value. Not set where a new value may move other parts.
+    struct PaintedValue
+    {
+        bool isSet = false;
+        QRect room; ///< of the value, in its row; the text stands at its right end
+        QString text;
+    };
+
+    int rowTop(int row) const;
+    void paintRows(CellPainter& cells, const QRect& dirty, bool onScreen);
+    static PaintedValue paintedValue(const CellItem& cell, const RowLayout& layout);
+    void notePainted(int row, const PaintedValue& value, const QRect& dirty);
+    QRect valueRect(const PaintedValue& painted, const QString& text) const;
+    QRect changedRect(int row);
     void connectModel();
+    void placeSections();
     void placeColumns();
+    void takeRowHeight();
     void takeNeededHeight();
     int labelColumn() const;
     QString elidedTexts(const CellItem& cell) const;
@@ -157,9 +180,10 @@ private:
     CellModel* const m_model;
     std::unique_ptr<CellInteraction> m_interaction;
     RowMetrics m_metrics;
-    mutable int m_widestLabel = -1; // -1: not measured
-    int m_hostColumn = -1;          // -1: the host has set no width
-    bool m_placingColumns = false;
+    std::vector<PaintedValue> m_painted; // by row
+    mutable int m_widestLabel = -1;      // -1: not measured
+    int m_hostColumn = -1;               // -1: the host has set no width
+    QSize m_leastSize;
     bool m_footerVisible = true;
     bool m_fontScale;
 };

@@ -108,4 +108,13 @@ QSize CMultiParamsTable::sizeHint() const
     return QSize(resources::size(keys::kPanelWidth, d->scale()), realHeight());
 }
 
+// Qt's own, which it takes from the style anew each time that the area around the table looks at it.
+QSize CMultiParamsTable::minimumSizeHint() const
+{
+    QSize& least = d->leastSize();
+    if (!least.isValid())
+        least = CEventWidgetT<QTableView>::minimumSizeHint();
+    return least;
+}
+
 } // namespace WQ

@@ -3,6 +3,7 @@
 #include "reference/toolkit/AccessibleCell.h"
 #include "reference/toolkit/CParameterCellPrivate.h"
 #include "reference/toolkit/Painting.h"
+#include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
 #include <QHelpEvent>
@@ -106,8 +107,10 @@ QString CParameterCell::formatInvalidMessage(int min, int max)
 
 QSize CParameterCell::sizeHint() const
 {
-    const int label = d->label.trimmed().isEmpty() ? 0 : d->size(keys::kFieldLabelWidth) + d->size(keys::kFieldGap);
-    return {label + d->size(keys::kFieldWidth), d->size(keys::kFieldHeight)};
+    const double scale = painting::scaleOf(this);
+    const auto size = [scale](const QString& key) { return resources::size(key, scale); };
+    const int label = d->label.trimmed().isEmpty() ? 0 : size(keys::kFieldLabelWidth) + size(keys::kFieldGap);
+    return {label + size(keys::kFieldWidth), size(keys::kFieldHeight)};
 }
 
 void CParameterCell::themeChanged()
@@ -138,7 +141,7 @@ bool CParameterCell::event(QEvent* event)
         break;
     case QEvent::MouseButtonPress:
         if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton
-            && d->fieldRect().contains(static_cast<QMouseEvent*>(event)->pos()))
+            && d->places().field.contains(static_cast<QMouseEvent*>(event)->pos()))
             d->edit(d->plainText(), true);
         break;
     case QEvent::Hide:

@@ -74,47 +74,34 @@ QFont CParameterCellPrivate::valueFont() const
     return resources::font(valueFontKey, painting::scaleOf(cell));
 }
 
-int CParameterCellPrivate::size(const QString& key) const
-{
-    return resources::size(key, painting::scaleOf(cell));
-}
-
 // Labels come with blanks in front, which line up in one font only; they are aligned at their right ends instead.
-QRect CParameterCellPrivate::labelRect() const
+CParameterCellPrivate::Places CParameterCellPrivate::places() const
 {
+    const double scale = painting::scaleOf(cell);
+    const auto size = [scale](const QString& key) { return resources::size(key, scale); };
+    const QFont font = resources::font(labelFontKey, scale);
+    const int height = cell->height();
+    const int padding = size(keys::kFieldPadding);
+    Places places;
     const QString shown = label.trimmed();
-    const int needed = painting::textWidth(labelFont(), shown);
-    const int column = shown.isEmpty() ? 0 : std::max(size(keys::kFieldLabelWidth), needed);
-    return {0, 0, std::min(column, cell->width() / 2), cell->height()};
-}
-
-QRect CParameterCellPrivate::fieldRect() const
-{
-    const int labelWidth = labelRect().width();
-    return cell->rect().adjusted(labelWidth > 0 ? labelWidth + size(keys::kFieldGap) : 0, 0, 0, 0);
-}
-
-QRect CParameterCellPrivate::unitRect() const
-{
-    const QRect field = fieldRect();
-    const int width = unit.isEmpty() ? 0 : std::min(painting::textWidth(labelFont(), unit), field.width() / 2);
-    return {field.left() + field.width() - size(keys::kFieldPadding) - width, 0, width, cell->height()};
-}
-
-QRect CParameterCellPrivate::valueRect() const
-{
-    const QRect field = fieldRect();
-    const int left = field.left() + size(keys::kFieldPadding);
-    const int right = unitRect().left() - (unit.isEmpty() ? 0 : size(keys::kUnitGap));
-    return {left, 0, std::max(0, right - left), cell->height()};
+    const int column = shown.isEmpty() ? 0 : std::max(size(keys::kFieldLabelWidth), painting::textWidth(font, shown));
+    places.label = {0, 0, std::min(column, cell->width() / 2), height};
+    places.field = cell->rect().adjusted(column > 0 ? places.label.width() + size(keys::kFieldGap) : 0, 0, 0, 0);
+    const QRect& field = places.field;
+    const int unitWidth = unit.isEmpty() ? 0 : std::min(painting::textWidth(font, unit), field.width() / 2);
+    places.unit = {field.left() + field.width() - padding - unitWidth, 0, unitWidth, height};
+    const int right = places.unit.left() - (unit.isEmpty() ? 0 : size(keys::kUnitGap));
+    places.value = {field.left() + padding, 0, std::max(0, right - field.left() - padding), height};
+    return places;
 }
 
 QString CParameterCellPrivate::elidedTexts() const
 {
+    const Places place = places();
     QStringList full;
-    if (painting::textWidth(labelFont(), label.trimmed()) > labelRect().width())
+    if (painting::textWidth(labelFont(), label.trimmed()) > place.label.width())
         full.append(label.trimmed());
-    if (painting::textWidth(valueFont(), shownText()) > valueRect().width())
+    if (painting::textWidth(valueFont(), shownText()) > place.value.width())
         full.append(unit.isEmpty() ? shownText() : shownText() + QLatin1Char(' ') + unit);
     return full.join(QStringLiteral(": "));
 }
@@ -122,20 +109,22 @@ QString CParameterCellPrivate::elidedTexts() const
 // Facts are disabled cells and are read all the time, so disabled ones keep their colours and lose the frame alone.
 void CParameterCellPrivate::paint(QPainter& painter) const
 {
-    const QRect field = fieldRect();
-    painter.fillRect(cell->rect(), resources::color(keys::kWindow));
-    painter.fillRect(field, resources::color(wrong ? keys::kWrongFill : keys::kInput));
-    painting::drawText(painter, labelRect(), labelFont(), resources::color(keys::kLabel),
-                       Qt::AlignRight | Qt::AlignVCenter, label.trimmed());
-    painting::drawText(painter, unitRect(), labelFont(), resources::color(keys::kUnit),
-                       Qt::AlignRight | Qt::AlignVCenter, unit);
+    const Places place = places();
+    const QFont font = labelFont();
+    const QColor& window = resources::color(keys::kWindow);
+    const QColor& input = resources::color(wrong ? keys::kWrongFill : keys::kInput);
+    painter.fillRect(cell->rect(), window);
+    painting::drawTextOn(painter, window, place.label, font, resources::color(keys::kLabel), Qt::AlignRight,
+                         label.trimmed());
+    painter.fillRect(place.field, input);
+    painting::drawTextOn(painter, input, place.unit, font, resources::color(keys::kUnit), Qt::AlignRight, unit);
     if (!editor)
-        painting::drawText(painter, valueRect(), valueFont(), resources::color(keys::kValue),
-                           Qt::AlignLeft | Qt::AlignVCenter, shownText());
+        painting::drawTextOn(painter, input, place.value, valueFont(), resources::color(keys::kValue), Qt::AlignLeft,
+                             shownText());
     if (!cell->isEnabled())
         return;
     const bool focus = editor || cell->hasFocus();
-    painting::drawFrame(painter, field,
+    painting::drawFrame(painter, place.field,
                         resources::color(wrong       ? keys::kWrongFrame
                                              : focus ? keys::kAccent
                                                      : keys::kSeparator));
@@ -166,7 +155,7 @@ void CParameterCellPrivate::edit(const QString& startText, bool selectAll)
 void CParameterCellPrivate::placeEditor()
 {
     if (editor)
-        editor->setGeometry(valueRect().adjusted(0, 1, 0, -1));
+        editor->setGeometry(places().value.adjusted(0, 1, 0, -1));
 }
 
 void CParameterCellPrivate::judge()

@@ -17,6 +17,14 @@ class CParameterCellPrivate
 public:
     enum class Holds { Nothing, Double, Int, Text };
 
+    struct Places
+    {
+        QRect label;
+        QRect field; ///< with unit and value in it
+        QRect unit;
+        QRect value;
+    };
+
     CParameterCellPrivate(CParameterCell* owner, int cellId, QString labelText, QString unitText);
 
     void set(Holds what, double newNumber, const QString& newText);
@@ -25,11 +33,7 @@ public:
 
     QFont labelFont() const;
     QFont valueFont() const;
-    int size(const QString& key) const;
-    QRect labelRect() const;
-    QRect fieldRect() const;
-    QRect unitRect() const;
-    QRect valueRect() const;
+    Places places() const;
     QString elidedTexts() const;
     void paint(QPainter& painter) const;
 

@@ -3,6 +3,8 @@
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/cells/DeviceGrid.h"
+#include "reference/toolkit/cells/TextCache.h"
+#include "reference/toolkit/cells/TextFace.h"
 
 #include <WQ/CBaseDialog.h>
 
@@ -82,6 +84,22 @@ void drawText(QPainter& painter, const QRect& rect, const QFont& font, const QCo
     painter.drawText(rect, static_cast<int>(alignment) | Qt::TextSingleLine, shown);
 }
 
+void drawTextOn(QPainter& painter, const QColor& ground, const QRect& rect, const QFont& font, const QColor& color,
+                Qt::AlignmentFlag side, const QString& text)
+{
+    if (text.isEmpty() || rect.isEmpty())
+        return;
+    const texts::Face& face = texts::faceOf(font);
+    if ((rect.height() - face.height()) % 2 != 0) { // half a pixel, which pictures have not
+        drawText(painter, rect, font, color, side | Qt::AlignVCenter, text);
+        return;
+    }
+    const QString shown = texts::elided(texts::oneLine(text), face, rect.width());
+    const int spare = side == Qt::AlignRight ? rect.width() - texts::width(shown, face) : 0;
+    texts::Pen(painter, face, DeviceGrid(painter).pictureRatio())
+        .draw(rect.adjusted(spare, 0, 0, 0), shown, color, ground);
+}
+
 void drawImage(QPainter& painter, const QRect& rect, const QString& key, const QColor& tint, int edge)
 {
     if (key.isEmpty() || edge <= 0)
@@ -97,7 +115,7 @@ QString shownText(const QString& text)
 
 int textWidth(const QFont& font, const QString& text)
 {
-    return QFontMetrics(font).horizontalAdvance(shownText(text));
+    return texts::width(shownText(text), texts::faceOf(font));
 }
 
 void shieldFromStyleSheet(QWidget* widget)

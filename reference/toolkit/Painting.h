@@ -32,6 +32,11 @@ void drawOuterFrame(QPainter& painter, const QRect& rect, const QColor& color);
 void drawText(QPainter& painter, const QRect& rect, const QFont& font, const QColor& color, Qt::Alignment alignment,
               const QString& text);
 
+/// The same at the left or right end of a rectangle that is filled with @p ground, as the little around it is which a
+/// glyph may reach into: where the device allows, a picture that has been drawn before.
+void drawTextOn(QPainter& painter, const QColor& ground, const QRect& rect, const QFont& font, const QColor& color,
+                Qt::AlignmentFlag side, const QString& text);
+
 /// The image of @p key in the middle of @p rect, @p edge pixels square.
 void drawImage(QPainter& painter, const QRect& rect, const QString& key, const QColor& tint, int edge);
 

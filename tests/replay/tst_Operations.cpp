@@ -94,7 +94,7 @@ const Row kRows[] = {
     {"OrderParamTable_mini/tables/CHpfBasketTaskParamWidget.h", Access::Protected, replay::basketProbeOperations,
      "handleEvent"},
     {"OrderParamTable_mini/platform/WQ/CMultiParamsTable.h", Access::Public, replay::cellTableOperations,
-     "CMultiParamsTable sizeHint"},
+     "CMultiParamsTable sizeHint minimumSizeHint setSelectionModel"},
 };
 // clang-format on
 

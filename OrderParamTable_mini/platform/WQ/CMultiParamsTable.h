@@ -194,6 +194,8 @@ public:
     void themeChanged() override;
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    void setSelectionModel(QItemSelectionModel* selectionModel) override;
 
 protected:
     bool event(QEvent* event) override;

@@ -9,6 +9,13 @@ namespace WQ {
 
 enum class CellKind { Combo, Number, CheckNumber, Range, TimePeriod, Line, Text };
 
+/// What a person sees change in a cell.
+enum class CellChange : unsigned char {
+    None,
+    Value, ///< the value's text alone: neither unit, label, check nor look
+    All
+};
+
 /// What one cell of the table holds: its value, how it is written and which changes it takes. No widget, no QObject.
 ///
 /// Functions that set answer whether anything that a person sees has changed, so that the caller can repaint or
@@ -93,6 +100,12 @@ public:
     /// Why the value is marked as off its grid, with the nearest grid values; empty when it is not.
     virtual QString offGridText() const;
 
+    /// What the model announces while its views hear of changed data.
+    CellChange announcedChange() const
+    {
+        return m_announced;
+    }
+
 private:
     friend class CellModel;
 
@@ -101,7 +114,8 @@ private:
     const CellKind m_kind;
     bool m_hidden = false;
     bool m_editable = true;
-    bool m_touched = false; // changed since the model last told its views
+    CellChange m_touched = CellChange::None; // since the model last told its views
+    CellChange m_announced = CellChange::None;
 };
 
 } // namespace WQ

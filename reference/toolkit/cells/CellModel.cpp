@@ -36,7 +36,7 @@ int CellModel::add(std::unique_ptr<CMultiParamsTableItem> item)
     m_items.push_back(std::move(item));
     touchRows();
     if (m_all.contains(entry.first))
-        Q_EMIT filterChanged();
+        touchFilter();
     return entry.second;
 }
 
@@ -84,15 +84,38 @@ QModelIndex CellModel::valueIndex(int id) const
     return index(rowOf(id), ValueColumn);
 }
 
-void CellModel::touch(CellItem* cell)
+void CellModel::touch(CellItem* cell, CellChange change)
 {
-    cell->m_touched = true;
+    const auto isIt = [cell](const auto& choice) { return choice.first == cell; };
+    m_choices.erase(std::remove_if(m_choices.begin(), m_choices.end(), isIt), m_choices.end());
+    cell->m_touched = std::max(cell->m_touched, change);
     m_valuesDirty = true;
     schedule();
 }
 
+void CellModel::touchChoice(CellItem* cell, const QString& before)
+{
+    if (cell->m_touched != CellChange::None)
+        return;
+    m_choices.emplace_back(cell, before);
+    cell->m_touched = CellChange::All;
+    m_valuesDirty = true;
+    schedule();
+}
+
+void CellModel::dropUndoneChoices()
+{
+    for (const auto& choice : m_choices) {
+        if (choice.first->text() == choice.second)
+            choice.first->m_touched = CellChange::None;
+    }
+    // Not clear(), which would keep the room of the largest batch for good.
+    std::vector<std::pair<CellItem*, QString>>().swap(m_choices);
+}
+
 void CellModel::touchRows()
 {
+    m_shownCount = -1;
     m_rowsDirty = true;
     schedule();
 }
@@ -126,6 +149,10 @@ void CellModel::flush()
     if (m_valuesDirty) {
         m_valuesDirty = false;
         announceValues();
+    }
+    if (m_filterDirty) {
+        m_filterDirty = false;
+        tellFilterLook();
     }
     m_flushing = false;
 }
@@ -171,21 +198,23 @@ void CellModel::replaceRows(const std::vector<int>& rows)
     }
 }
 
+// What is announced is taken first: whoever hears of it may change cells again.
 void CellModel::announceValues()
 {
-    const auto isTouched = [this](int row) { return itemAt(m_rows[static_cast<size_t>(row)])->cell()->m_touched; };
+    dropUndoneChoices();
+    for (const auto& item : m_items)
+        item->cell()->m_announced = std::exchange(item->cell()->m_touched, CellChange::None);
+    const auto isChanged = [this](int row) { return cellAtRow(row)->announcedChange() != CellChange::None; };
     std::vector<std::pair<int, int>> runs;
     const int rows = static_cast<int>(m_rows.size());
     for (int row = 0; row < rows; ++row) {
-        if (!isTouched(row))
+        if (!isChanged(row))
             continue;
         if (!runs.empty() && runs.back().second == row - 1)
             runs.back().second = row;
         else
             runs.emplace_back(row, row);
     }
-    for (const auto& item : m_items)
-        item->cell()->m_touched = false;
     for (const auto& run : runs)
         Q_EMIT dataChanged(index(run.first, LabelColumn), index(run.second, ValueColumn));
 }

@@ -46,7 +46,11 @@ public:
     QModelIndex valueIndex(int id) const;
 
     /// To be called after a change of a cell's value, label or look; @p cell is of this model.
-    void touch(CellItem* cell);
+    void touch(CellItem* cell, CellChange change = CellChange::All);
+
+    /// As touch(), for a choice made by program: a host that refills a list chooses again at once, and views are told
+    /// only when another text than @p before is left in the end.
+    void touchChoice(CellItem* cell, const QString& before);
 
     /// To be called after a change of a cell's hidden mark.
     void touchRows();
@@ -115,11 +119,18 @@ Q_SIGNALS:
     /// What the filter offers, ticks or allows has changed. Sent at once, never for a change without effect.
     void filterChanged();
 
+    /// The filter's button looks otherwise: sent once a batch, and not when its changes have undone each other.
+    void filterLookChanged();
+
     /// Rows have come or gone: sent once a batch, after the signals of the single rows.
     void rowsReplaced();
 
 private:
     void schedule();
+    void touchFilter();
+    void dropUndoneChoices();
+    std::pair<bool, bool> filterLook() const;
+    void tellFilterLook();
     std::vector<int> shownPositions() const;
     void replaceRows(const std::vector<int>& rows);
     void announceValues();
@@ -130,13 +141,17 @@ private:
     QSet<int> m_visible;
     QSet<int> m_all;
     QSet<int> m_blacklist;
+    std::vector<std::pair<CellItem*, QString>> m_choices; // touched by choices alone, and their texts before
     std::function<QString(const CellItem&)> m_toolTip;
+    mutable int m_shownCount = 0; // -1: to be counted
     bool m_expanded = false;
     bool m_enabled = true;
     bool m_rowsDirty = false;
     bool m_valuesDirty = false;
+    bool m_filterDirty = false;
     bool m_scheduled = false;
     bool m_flushing = false;
+    std::pair<bool, bool> m_filterLook = filterLook(); // as last told
 };
 
 } // namespace WQ

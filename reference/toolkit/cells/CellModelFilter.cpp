@@ -13,8 +13,11 @@ bool CellModel::isShown(const CellItem& cell) const
 
 int CellModel::shownCount() const
 {
-    return static_cast<int>(
-        std::count_if(m_items.begin(), m_items.end(), [this](const auto& item) { return isShown(*item->cell()); }));
+    if (m_shownCount < 0) {
+        m_shownCount = static_cast<int>(
+            std::count_if(m_items.begin(), m_items.end(), [this](const auto& item) { return isShown(*item->cell()); }));
+    }
+    return m_shownCount;
 }
 
 std::vector<CellItem*> CellModel::filterCells() const
@@ -27,13 +30,32 @@ std::vector<CellItem*> CellModel::filterCells() const
     return cells;
 }
 
+void CellModel::touchFilter()
+{
+    m_filterDirty = true;
+    schedule();
+    Q_EMIT filterChanged();
+}
+
+std::pair<bool, bool> CellModel::filterLook() const
+{
+    return {m_enabled && !m_expanded, !m_visible.isEmpty()};
+}
+
+void CellModel::tellFilterLook()
+{
+    const std::pair<bool, bool> look = filterLook();
+    if (std::exchange(m_filterLook, look) != look)
+        Q_EMIT filterLookChanged();
+}
+
 void CellModel::setVisibleSet(QSet<int> ids)
 {
     if (ids == m_visible)
         return;
     m_visible = std::move(ids);
     touchRows();
-    Q_EMIT filterChanged();
+    touchFilter();
 }
 
 void CellModel::setAllSet(QSet<int> ids)
@@ -41,7 +63,7 @@ void CellModel::setAllSet(QSet<int> ids)
     if (ids == m_all)
         return;
     m_all = std::move(ids);
-    Q_EMIT filterChanged();
+    touchFilter();
 }
 
 void CellModel::addToAllSet(int id)
@@ -49,7 +71,7 @@ void CellModel::addToAllSet(int id)
     if (m_all.contains(id))
         return;
     m_all.insert(id);
-    Q_EMIT filterChanged();
+    touchFilter();
 }
 
 void CellModel::setBlacklisted(int id, bool excluded)
@@ -60,7 +82,7 @@ void CellModel::setBlacklisted(int id, bool excluded)
         m_blacklist.insert(id);
     else
         m_blacklist.remove(id);
-    Q_EMIT filterChanged();
+    touchFilter();
 }
 
 void CellModel::clearBlacklist()
@@ -68,7 +90,7 @@ void CellModel::clearBlacklist()
     if (m_blacklist.isEmpty())
         return;
     m_blacklist.clear();
-    Q_EMIT filterChanged();
+    touchFilter();
 }
 
 void CellModel::setExpanded(bool expanded)
@@ -77,7 +99,7 @@ void CellModel::setExpanded(bool expanded)
         return;
     m_expanded = expanded;
     touchRows();
-    Q_EMIT filterChanged();
+    touchFilter();
 }
 
 void CellModel::setEnabled(bool enabled)
@@ -87,7 +109,7 @@ void CellModel::setEnabled(bool enabled)
     m_enabled = enabled;
     for (const auto& item : m_items)
         touch(item->cell());
-    Q_EMIT filterChanged();
+    touchFilter();
 }
 
 bool CellModel::isEditable(const CellItem& cell) const

@@ -4,10 +4,10 @@
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/cells/CellItem.h"
-#include "reference/toolkit/cells/DeviceGrid.h"
-#include "reference/toolkit/cells/TextCache.h"
+#include "reference/toolkit/cells/TextFace.h"
 
 #include <QPainter>
+#include <QPixmapCache>
 
 namespace WQ {
 
@@ -53,6 +53,15 @@ const QColor& unitColor(const RowState& state)
     return state.enabled && state.unitMouse ? palette().value : palette().unit;
 }
 
+const QColor& footerColor(const FooterState& state)
+{
+    if (!state.enabled)
+        return palette().unit;
+    if (state.active)
+        return palette().accent;
+    return state.mouse ? palette().value : palette().label;
+}
+
 const QColor& groundOf(const RowState& state)
 {
     if (state.wrong)
@@ -67,114 +76,133 @@ QRect centred(const QRect& area, int size)
     return QRect(area.left(), area.top() + (area.height() - size) / 2, size, size);
 }
 
-void drawImage(QPainter& painter, const QString& key, const QColor& tint, const QRect& rect)
-{
-    painting::drawImage(painter, rect, key, tint, rect.width());
-}
-
-class TextPen
-{
-public:
-    TextPen(QPainter& painter, const RowMetrics& metrics)
-        : m_painter(painter)
-        , m_metrics(metrics)
-    {
-        m_painter.setFont(metrics.font);
-    }
-
-    void draw(const QRect& area, const QString& text, const QColor& color, bool right = false)
-    {
-        if (text.isEmpty())
-            return;
-        const int left = right ? area.right() + 1 - texts::width(text, m_metrics.font) : area.left();
-        m_painter.setPen(color);
-        texts::draw(m_painter, QPoint(left, area.top() + (area.height() - m_metrics.textHeight) / 2), text,
-                    m_metrics.font);
-    }
-
-private:
-    QPainter& m_painter;
-    const RowMetrics& m_metrics;
-};
-
-void paintMarks(QPainter& painter, const DeviceGrid& grid, const QRect& row, const CellItem& cell,
-                const RowMetrics& metrics, const RowState& state)
-{
-    if (!cell.offGridText().isEmpty())
-        painter.fillRect(grid.aligned(QRectF(row.left(), row.top(), metrics.bar, row.height() - 1)), palette().notice);
-    if (state.wrong)
-        grid.fillFrame(painter, row, palette().wrongFrame);
-    else if (state.focus)
-        grid.fillFrame(painter, row, palette().accent);
-}
-
-void paintCheck(QPainter& painter, TextPen& pen, const CellItem& cell, const RowLayout& layout,
-                const RowMetrics& metrics, bool enabled)
-{
-    if (layout.check.isEmpty())
-        return;
-    const QRect box = centred(layout.check, metrics.checkBox);
-    paintCheckBox(painter, box, cell.isChecked(), enabled);
-    pen.draw(layout.check.adjusted(metrics.checkBox + metrics.gap / 2, 0, 0, 0), layout.checkText, labelColor(enabled));
-}
-
-} // namespace
-
-void paintRow(QPainter& painter, const QRect& row, const CellItem& cell, const RowLayout& layout,
-              const RowMetrics& metrics, const RowState& state)
+void drawCheckBox(QPainter& painter, const QRect& box, const QColor& color, bool checked)
 {
     const DeviceGrid grid(painter);
-    painter.fillRect(grid.aligned(row), groundOf(state));
-    grid.fillBottomLine(painter, row, palette().separator);
-    TextPen pen(painter, metrics);
-    pen.draw(layout.label, layout.labelText, labelColor(state.enabled));
-    if (!state.editing)
-        pen.draw(layout.value, layout.valueText, valueColor(state.enabled), true);
-    pen.draw(layout.unit, layout.unitText, unitColor(state));
-    if (!layout.chevron.isEmpty())
-        drawImage(painter, keys::kChevronImage, unitColor(state), centred(layout.chevron, metrics.chevron));
-    paintCheck(painter, pen, cell, layout, metrics, state.enabled);
-    paintMarks(painter, grid, row, cell, metrics, state);
-}
-
-void paintCheckBox(QPainter& painter, const QRect& box, bool checked, bool enabled)
-{
-    const DeviceGrid grid(painter);
-    const QColor& color = !checked ? palette().unit : enabled ? palette().accent : palette().label;
     const qreal radius = box.width() / 6.0;
     const qreal line = grid.pixel().width();
-    const QRectF edge = grid.aligned(box).adjusted(line / 2, line / 2, -line / 2, -line / 2);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(color, line));
     painter.setBrush(checked ? QBrush(color) : Qt::NoBrush);
-    painter.drawRoundedRect(edge, radius, radius);
+    painter.drawRoundedRect(grid.aligned(box).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
     painter.restore();
+}
+
+QPixmap checkBoxPicture(const QSize& size, const QColor& color, bool checked, int ratio)
+{
+    const QString key = QStringLiteral("wq_check_box %1 %2 %3 %4")
+                            .arg(QString::number(size.width()), QString::number(color.rgba()), QString::number(ratio),
+                                 QString::number(int(checked)));
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture))
+        return picture;
+    picture = QPixmap(size * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawCheckBox(painter, QRect(QPoint(), size), color, checked);
+    QPixmapCache::insert(key, picture);
+    return picture;
+}
+
+} // namespace
+
+void paintCheckBox(QPainter& painter, const QRect& box, bool checked, bool enabled)
+{
+    const QColor& color = !checked ? palette().unit : enabled ? palette().accent : palette().label;
+    if (const int ratio = DeviceGrid(painter).pictureRatio())
+        painter.drawPixmap(box.topLeft(), checkBoxPicture(box.size(), color, checked, ratio));
+    else
+        drawCheckBox(painter, box, color, checked);
     if (checked)
-        drawImage(painter, keys::kCheckImage, palette().checkMark, box);
+        painting::drawImage(painter, box, keys::kCheckImage, palette().checkMark, box.width());
 }
 
-void paintFooter(QPainter& painter, const QRect& footer, const RowMetrics& metrics, const FooterState& state)
+CellPainter::CellPainter(QPainter& painter, const RowMetrics& metrics, const QRect& dirty)
+    : m_painter(painter)
+    , m_metrics(metrics)
+    , m_dirty(dirty)
+    , m_grid(painter)
+    , m_pen(painter, *metrics.face, m_grid.pictureRatio())
 {
-    const DeviceGrid grid(painter);
-    painter.fillRect(grid.aligned(footer), state.mouse && state.enabled ? palette().rowMouse : palette().row);
-    const QColor& color = !state.enabled ? palette().unit
-        : state.active                   ? palette().accent
-        : state.mouse                    ? palette().value
-                                         : palette().label;
-    const QRect icon(footer.right() + 1 - metrics.padding - metrics.chevron, footer.top(), metrics.chevron,
+}
+
+void CellPainter::paintRow(const QRect& row, const CellItem& cell, const RowLayout& layout, const RowState& state)
+{
+    const QColor& ground = groundOf(state);
+    m_painter.fillRect(m_grid.aligned(row), ground);
+    if (row.bottom() <= m_dirty.bottom())
+        m_grid.fillBottomLine(m_painter, row, palette().separator);
+    paintTexts(layout, state, ground);
+    paintCheck(cell, layout, state.enabled, ground);
+    paintMarks(row, cell, state);
+}
+
+void CellPainter::paintTexts(const RowLayout& layout, const RowState& state, const QColor& ground)
+{
+    drawText(layout.label, layout.labelText, labelColor(state.enabled), ground);
+    if (!state.editing)
+        drawText(layout.value, layout.valueText, valueColor(state.enabled), ground, true);
+    drawText(layout.unit, layout.unitText, unitColor(state), ground);
+    if (!layout.chevron.isEmpty())
+        drawImage(keys::kChevronImage, unitColor(state), centred(layout.chevron, m_metrics.chevron));
+}
+
+void CellPainter::paintCheck(const CellItem& cell, const RowLayout& layout, bool enabled, const QColor& ground)
+{
+    if (layout.check.isEmpty() || !layout.check.intersects(m_dirty))
+        return;
+    const QRect box = centred(layout.check, m_metrics.checkBox);
+    paintCheckBox(m_painter, box, cell.isChecked(), enabled);
+    const QRect text = layout.check.adjusted(m_metrics.checkBox + m_metrics.gap / 2, 0, 0, 0);
+    drawText(text, layout.checkText, labelColor(enabled), ground);
+}
+
+void CellPainter::paintMarks(const QRect& row, const CellItem& cell, const RowState& state)
+{
+    if (!cell.offGridText().isEmpty()) {
+        const QRectF bar(row.left(), row.top(), m_metrics.bar, row.height() - 1);
+        m_painter.fillRect(m_grid.aligned(bar), palette().notice);
+    }
+    if (state.wrong)
+        m_grid.fillFrame(m_painter, row, palette().wrongFrame);
+    else if (state.focus)
+        m_grid.fillFrame(m_painter, row, palette().accent);
+}
+
+void CellPainter::drawText(const QRect& area, const QString& text, const QColor& color, const QColor& ground,
+                           bool right)
+{
+    if (text.isEmpty() || !area.intersects(m_dirty))
+        return;
+    const int left = right ? area.right() + 1 - texts::width(text, *m_metrics.face) : area.left();
+    m_pen.draw(QRect(QPoint(left, area.top()), area.bottomRight()), text, color, ground);
+}
+
+void CellPainter::drawImage(const QString& key, const QColor& tint, const QRect& rect)
+{
+    if (rect.intersects(m_dirty))
+        painting::drawImage(m_painter, rect, key, tint, rect.width());
+}
+
+void CellPainter::paintFooter(const QRect& footer, const FooterState& state)
+{
+    const QColor& ground = state.mouse && state.enabled ? palette().rowMouse : palette().row;
+    m_painter.fillRect(m_grid.aligned(footer), ground);
+    const QColor& color = footerColor(state);
+    const QRect icon(footer.right() + 1 - m_metrics.padding - m_metrics.chevron, footer.top(), m_metrics.chevron,
                      footer.height());
-    drawImage(painter, keys::kFilterImage, color, centred(icon, metrics.chevron));
-    TextPen pen(painter, metrics);
-    pen.draw(QRect(footer.topLeft(), QPoint(icon.left() - metrics.gap, footer.bottom())), QStringLiteral("筛选"), color,
-             true);
+    drawImage(keys::kFilterImage, color, centred(icon, m_metrics.chevron));
+    drawText(QRect(footer.topLeft(), QPoint(icon.left() - m_metrics.gap, footer.bottom())), QStringLiteral("筛选"),
+             color, ground, true);
     if (state.focus)
-        grid.fillFrame(painter, footer, palette().accent);
+        m_grid.fillFrame(m_painter, footer, palette().accent);
 }
 
-void paintGround(QPainter& painter, const QRect& rect)
+void CellPainter::paintGround(const QRect& rect)
 {
-    painter.fillRect(DeviceGrid(painter).aligned(rect), palette().window);
+    m_painter.fillRect(m_grid.aligned(rect), palette().window);
 }
 
 } // namespace WQ

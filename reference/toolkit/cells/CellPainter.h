@@ -1,6 +1,8 @@
 #pragma once
 
+#include "reference/toolkit/cells/DeviceGrid.h"
 #include "reference/toolkit/cells/RowLayout.h"
+#include "reference/toolkit/cells/TextCache.h"
 
 class QPainter;
 
@@ -19,10 +21,6 @@ struct RowState
     bool unitMouse = false; ///< the mouse is over the unit of an enabled cell with several
 };
 
-/// Paints a row whole, opaque, the separator in its last device pixel.
-WQ_EXPORT void paintRow(QPainter& painter, const QRect& row, const CellItem& cell, const RowLayout& layout,
-                        const RowMetrics& metrics, const RowState& state);
-
 /// Paints a check box, wherever one stands: in a row, in the filter's list.
 WQ_EXPORT void paintCheckBox(QPainter& painter, const QRect& box, bool checked, bool enabled);
 
@@ -35,10 +33,34 @@ struct FooterState
     bool active = false; ///< some cells are filtered out
 };
 
-/// Paints the filter's footer, opaque.
-WQ_EXPORT void paintFooter(QPainter& painter, const QRect& footer, const RowMetrics& metrics, const FooterState& state);
+/// Paints what a table shows, opaque, while one paint event lasts. What lies outside of @p dirty may be left out.
+class WQ_EXPORT CellPainter
+{
+public:
+    CellPainter(QPainter& painter, const RowMetrics& metrics, const QRect& dirty);
 
-/// Paints the ground below the last row, opaque.
-WQ_EXPORT void paintGround(QPainter& painter, const QRect& rect);
+    /// A row, the separator in its last device pixel.
+    void paintRow(const QRect& row, const CellItem& cell, const RowLayout& layout, const RowState& state);
+
+    /// The filter's footer.
+    void paintFooter(const QRect& footer, const FooterState& state);
+
+    /// The ground below the last row.
+    void paintGround(const QRect& rect);
+
+private:
+    void paintTexts(const RowLayout& layout, const RowState& state, const QColor& ground);
+    void paintCheck(const CellItem& cell, const RowLayout& layout, bool enabled, const QColor& ground);
+    void paintMarks(const QRect& row, const CellItem& cell, const RowState& state);
+    void drawText(const QRect& area, const QString& text, const QColor& color, const QColor& ground,
+                  bool right = false);
+    void drawImage(const QString& key, const QColor& tint, const QRect& rect);
+
+    QPainter& m_painter;
+    const RowMetrics& m_metrics;
+    const QRect m_dirty;
+    const DeviceGrid m_grid;
+    texts::Pen m_pen;
+};
 
 } // namespace WQ

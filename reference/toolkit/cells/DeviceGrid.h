@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QRectF>
 
@@ -14,7 +15,23 @@ class DeviceGrid
 public:
     explicit DeviceGrid(const QPainter& painter)
         : m_toDevice(painter.deviceTransform())
+        , m_isRaster(painter.paintEngine()->type() == QPaintEngine::Raster)
     {
+    }
+
+    /// At which ratio pictures of what is painted again and again are kept: Qt draws them pixel by pixel at these
+    /// alone. 0: there is none; printers and vector pictures want the real thing anyway.
+    int pictureRatio() const
+    {
+        const bool isWhole =
+            std::floor(m_toDevice.dx()) == m_toDevice.dx() && std::floor(m_toDevice.dy()) == m_toDevice.dy();
+        if (!m_isRaster || m_toDevice.type() > QTransform::TxScale || !isWhole)
+            return 0;
+        for (const int ratio : {1, 2}) {
+            if (m_toDevice.m11() == ratio && m_toDevice.m22() == ratio)
+                return ratio;
+        }
+        return 0;
     }
 
     /// The pixels that a logical rectangle covers.
@@ -61,6 +78,7 @@ private:
     }
 
     QTransform m_toDevice;
+    bool m_isRaster;
 };
 
 } // namespace WQ

@@ -4,8 +4,7 @@
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/cells/CellItem.h"
 #include "reference/toolkit/cells/TextCache.h"
-
-#include <QFontMetrics>
+#include "reference/toolkit/cells/TextFace.h"
 
 #include <algorithm>
 
@@ -44,17 +43,22 @@ private:
         return QRect(left, m_row.top(), std::max(0, width), m_row.height() - 1);
     }
 
-    QString fitted(const QString& text, int room)
+    /// @p line is what a row can show of @p text.
+    QString fitted(const QString& text, const QString& line, int room)
     {
-        const QString line = texts::oneLine(text);
-        const QString shown = texts::elided(line, m_metrics.font, room);
+        const QString shown = texts::elided(line, *m_metrics.face, room);
         m_layout.elided |= shown != text;
         return shown;
     }
 
+    QString fitted(const QString& text, int room)
+    {
+        return fitted(text, texts::oneLine(text), room);
+    }
+
     int widthOf(const QString& text) const
     {
-        return texts::width(text, m_metrics.font);
+        return texts::width(text, *m_metrics.face);
     }
 
     void placeChevron()
@@ -89,8 +93,9 @@ private:
     void placeTexts()
     {
         const int check = checkWidth();
-        const QString value = texts::oneLine(m_cell.displayText());
-        const int valueWidth = widthOf(value);
+        const QString value = m_cell.displayText();
+        const QString valueLine = texts::oneLine(value);
+        const int valueWidth = widthOf(valueLine);
         const int labelWidth = widthOf(texts::oneLine(m_cell.label()));
         const int room = std::max(0, m_right - m_left - m_metrics.gap - (check > 0 ? check + m_metrics.gap : 0));
         const int labelRoom = roomOfLabel(labelWidth, valueWidth, room);
@@ -104,7 +109,7 @@ private:
             end = left + check + m_metrics.gap;
         }
         m_layout.value = part(end, m_right - end);
-        m_layout.valueText = fitted(m_cell.displayText(), m_layout.value.width());
+        m_layout.valueText = fitted(value, valueLine, m_layout.value.width());
     }
 
     int roomOfLabel(int labelWidth, int valueWidth, int room) const
@@ -129,7 +134,7 @@ private:
 RowMetrics::RowMetrics(double uiScale)
     : scale(uiScale)
     , font(resources::font(keys::kTextFont, uiScale))
-    , textHeight(QFontMetrics(font).height())
+    , face(&texts::faceOf(font))
     , rowHeight(resources::size(keys::kRowHeight, uiScale))
     , footerHeight(resources::size(keys::kFilterFooter, uiScale))
     , padding(resources::size(keys::kPadding, uiScale))

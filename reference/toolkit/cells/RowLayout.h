@@ -10,6 +10,10 @@ namespace WQ {
 
 class CellItem;
 
+namespace texts {
+class Face;
+}
+
 /// The sizes of a row at one scale, read once from the resources.
 struct WQ_EXPORT RowMetrics
 {
@@ -17,7 +21,7 @@ struct WQ_EXPORT RowMetrics
 
     double scale;
     QFont font;
-    int textHeight;
+    const texts::Face* face; ///< of the font
     int rowHeight;
     int footerHeight;
     int padding;

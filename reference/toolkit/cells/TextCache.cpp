@@ -1,9 +1,12 @@
 #include "reference/toolkit/cells/TextCache.h"
 
+#include "reference/toolkit/cells/TextFace.h"
+
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QHash>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStaticText>
 
 #include <algorithm>
@@ -17,28 +20,30 @@ constexpr int kTextsKept = 1024;
 constexpr int kLongestKept = 64;
 constexpr int kLongestShown = 256;
 
+// Around a text in its picture: glyphs may reach over their own width and the height of the line.
+constexpr int kMargin = 2;
+
 struct TextKey
 {
     QString text;
-    QString family;
-    int pixels;
-    int weight;
+    const Face* face;
 
     bool operator==(const TextKey& other) const
     {
-        return pixels == other.pixels && weight == other.weight && text == other.text && family == other.family;
+        return face == other.face && text == other.text;
     }
 };
 
 uint qHash(const TextKey& key, uint seed = 0)
 {
-    return ::qHash(key.text, seed) ^ static_cast<uint>(key.pixels * 31 + key.weight);
+    return ::qHash(key.text, seed) ^ ::qHash(key.face, seed);
 }
 
 struct PreparedText
 {
     QStaticText text;
     int width = 0;
+    int height = 0;
 };
 
 PreparedText prepared(const QString& text, const QFont& font)
@@ -48,6 +53,7 @@ PreparedText prepared(const QString& text, const QFont& font)
     made.text.setText(text);
     made.text.prepare(QTransform(), font);
     made.width = static_cast<int>(std::ceil(made.text.size().width()));
+    made.height = static_cast<int>(std::ceil(made.text.size().height()));
     return made;
 }
 
@@ -62,10 +68,10 @@ void clearCache()
     cache().clear();
 }
 
-const PreparedText& kept(const QString& text, const QFont& font)
+const PreparedText& kept(const QString& text, const Face& face)
 {
     QHash<TextKey, PreparedText>& texts = cache();
-    const TextKey key{text, font.family(), font.pixelSize(), font.weight()};
+    const TextKey key{text, &face};
     const auto found = texts.constFind(key);
     if (found != texts.constEnd())
         return *found;
@@ -74,7 +80,7 @@ const PreparedText& kept(const QString& text, const QFont& font)
         qAddPostRoutine(clearCache);
     if (texts.size() >= kTextsKept)
         texts.clear();
-    return *texts.insert(key, prepared(text, font));
+    return *texts.insert(key, prepared(text, face.font()));
 }
 
 bool breaksLine(QChar c)
@@ -82,33 +88,54 @@ bool breaksLine(QChar c)
     return c < QLatin1Char(' ') || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
 }
 
+void append(QString& key, quint64 number)
+{
+    for (int shift = 0; shift < 64; shift += 16)
+        key += QChar(static_cast<ushort>(number >> shift));
+}
+
+QString pictureKey(const QString& text, const Face& face, QRgb color, QRgb ground, int ratio)
+{
+    constexpr int kNumbers = 10;
+    QString key;
+    key.reserve(text.size() + kNumbers);
+    key += text;
+    append(key, reinterpret_cast<quintptr>(&face));
+    append(key, (quint64(color) << 32) + ground);
+    key += QChar(static_cast<ushort>(ratio));
+    return key;
+}
+
+QPixmap pictureOf(const PreparedText& text, const Face& face, const QColor& color, const QColor& ground, int ratio)
+{
+    QPixmap picture(QSize(text.width + 2 * kMargin, text.height + 2 * kMargin) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(ground);
+    QPainter painter(&picture);
+    painter.setFont(face.font());
+    painter.setPen(color);
+    painter.drawStaticText(kMargin, kMargin, text.text);
+    return picture;
+}
+
 } // namespace
 
-int width(const QString& text, const QFont& font)
+int width(const QString& text, const Face& face)
 {
     if (text.isEmpty())
         return 0;
+    if (face.isNumber(text))
+        return static_cast<int>(std::ceil(face.numberWidth(text)));
     if (text.size() <= kLongestKept)
-        return kept(text, font).width;
-    return QFontMetrics(font).horizontalAdvance(text) + 1;
+        return kept(text, face).width;
+    return QFontMetrics(face.font()).horizontalAdvance(text) + 1;
 }
 
-void draw(QPainter& painter, QPoint position, const QString& text, const QFont& font)
+QString elided(const QString& text, const Face& face, int room)
 {
-    if (text.isEmpty())
-        return;
-    if (text.size() <= kLongestKept) {
-        painter.drawStaticText(position, kept(text, font).text);
-        return;
-    }
-    painter.drawText(position + QPoint(0, QFontMetrics(font).ascent()), text);
-}
-
-QString elided(const QString& text, const QFont& font, int room)
-{
-    if (width(text, font) <= room)
+    if (width(text, face) <= room)
         return text;
-    return room <= 0 ? QString() : QFontMetrics(font).elidedText(text, Qt::ElideRight, room);
+    return room <= 0 ? QString() : QFontMetrics(face.font()).elidedText(text, Qt::ElideRight, room);
 }
 
 QString oneLine(const QString& text)
@@ -120,6 +147,57 @@ QString oneLine(const QString& text)
     if (text.size() > kLongestShown)
         line += QChar(0x2026);
     return line;
+}
+
+Pen::Pen(QPainter& painter, const Face& face, int pictureRatio)
+    : m_painter(painter)
+    , m_face(face)
+    , m_pictureRatio(pictureRatio)
+{
+}
+
+void Pen::draw(const QRect& area, const QString& text, const QColor& color, const QColor& ground)
+{
+    if (text.isEmpty())
+        return;
+    const QPoint position(area.left(), area.top() + (area.height() - m_face.height()) / 2);
+    const bool isNumber = m_face.isNumber(text);
+    if (m_pictureRatio > 0 && !isNumber && text.size() <= kLongestKept) {
+        drawPicture(position, area, text, color, ground);
+        return;
+    }
+    m_painter.setPen(color);
+    if (isNumber)
+        m_face.drawNumber(m_painter, position, text);
+    else
+        drawDirectly(position, text);
+}
+
+void Pen::drawPicture(const QPoint& position, const QRect& area, const QString& text, const QColor& color,
+                      const QColor& ground)
+{
+    const QString key = pictureKey(text, m_face, color.rgba(), ground.rgba(), m_pictureRatio);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = pictureOf(kept(text, m_face), m_face, color, ground, m_pictureRatio);
+        QPixmapCache::insert(key, picture);
+    }
+    const QRect whole(position - QPoint(kMargin, kMargin), picture.size() / m_pictureRatio);
+    const QRect seen(QPoint(whole.left(), std::max(whole.top(), area.top())),
+                     QPoint(whole.right(), std::min(whole.bottom(), area.bottom())));
+    const QPoint cut = (seen.topLeft() - whole.topLeft()) * m_pictureRatio;
+    m_painter.drawPixmap(seen, picture, QRect(cut, seen.size() * m_pictureRatio));
+}
+
+void Pen::drawDirectly(const QPoint& position, const QString& text)
+{
+    if (!m_fontSet)
+        m_painter.setFont(m_face.font());
+    m_fontSet = true;
+    if (text.size() <= kLongestKept)
+        m_painter.drawStaticText(position, kept(text, m_face).text);
+    else
+        m_painter.drawText(position + QPoint(0, QFontMetrics(m_face.font()).ascent()), text);
 }
 
 } // namespace WQ::texts

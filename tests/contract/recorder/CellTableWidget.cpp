@@ -10,6 +10,11 @@ QSize CMultiParamsTable::sizeHint() const
     return QTableView::sizeHint();
 }
 
+QSize CMultiParamsTable::minimumSizeHint() const
+{
+    return QTableView::minimumSizeHint();
+}
+
 bool CMultiParamsTable::event(QEvent* event)
 {
     return QTableView::event(event);
@@ -98,6 +103,11 @@ bool CMultiParamsTable::edit(const QModelIndex& index, EditTrigger trigger, QEve
 void CMultiParamsTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
     QTableView::closeEditor(editor, hint);
+}
+
+void CMultiParamsTable::setSelectionModel(QItemSelectionModel* selectionModel)
+{
+    QTableView::setSelectionModel(selectionModel);
 }
 
 QModelIndex CMultiParamsTable::moveCursor(CursorAction cursorAction, Qt::KeyboardModifiers modifiers)

@@ -11,7 +11,6 @@ class tst_CMultiParamsTablePainting : public QObject
 private Q_SLOTS:
     void cleanup();
 
-    void changedValueRepaintsItsRowAlone();
     void changesThatShowNothingPaintNothing();
     void batchPaintsOnce();
     void looksTheSameUnderAnyStyleSheet();
@@ -25,16 +24,6 @@ void tst_CMultiParamsTablePainting::cleanup()
     WQ::resources::setScale(1.0);
     WQ::resources::setTheme(QStringLiteral("dark"));
     qApp->setStyleSheet(QString());
-}
-
-void tst_CMultiParamsTablePainting::changedValueRepaintsItsRowAlone()
-{
-    HostedTable host;
-    QVERIFY(host.isShown);
-    EventCounter paints(host.table.viewport(), QEvent::Paint);
-    host.table.setItemInt(kInt, 500);
-    QTRY_COMPARE(paints.count, 1);
-    QCOMPARE(paints.region.boundingRect(), QRect(0, 3 * 26, 240, 26));
 }
 
 void tst_CMultiParamsTablePainting::changesThatShowNothingPaintNothing()

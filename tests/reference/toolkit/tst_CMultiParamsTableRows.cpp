@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aFixedHeightStaysAsItsOwnerWants();
     void footerCountsWhileItIsVisible();
     void filterIsEnabledWhileCollapsedAndEnabled();
+    void theLeastSizeIsQtsOwnUnderAnyStyleSheet();
     void scaleComesFromTheOwnerAlone();
     void withoutFontScaleTheTableStaysAtScaleOne();
     void modelStaysSoundUnderTheView();
@@ -101,6 +102,17 @@ void tst_CMultiParamsTableRows::filterIsEnabledWhileCollapsedAndEnabled()
     table.setAllItemEnable(true);
     table.setCustomWidgetVisible(false);
     QVERIFY(!inner(table).isFilterEnabled());
+}
+
+void tst_CMultiParamsTableRows::theLeastSizeIsQtsOwnUnderAnyStyleSheet()
+{
+    Table table;
+    table.show();
+    const QString sheet = QStringLiteral("QScrollBar:vertical { width: 77px } QScrollBar:horizontal { height: 55px }");
+    for (const QString& each : {QString(), sheet, QString()}) {
+        qApp->setStyleSheet(each);
+        QCOMPARE(table.minimumSizeHint(), table.QTableView::minimumSizeHint());
+    }
 }
 
 void tst_CMultiParamsTableRows::scaleComesFromTheOwnerAlone()

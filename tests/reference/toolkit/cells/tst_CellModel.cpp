@@ -44,6 +44,23 @@ QString rowsOf(const WQ::CellModel& model)
     return ids.join(QLatin1Char(' '));
 }
 
+/// A combo of 甲 (10) and 乙 (20), 甲 chosen.
+std::unique_ptr<WQ::CMultiParamsTableItem> choice(int id)
+{
+    auto cell = std::make_unique<WQ::ComboCell>(id, QStringLiteral("报价方式"),
+                                                QStringList{QStringLiteral("甲"), QStringLiteral("乙")},
+                                                QVector<QVariant>{10, 20}, 0);
+    return std::make_unique<WQ::CMultiParamsTableItem>(std::move(cell));
+}
+
+void choose(WQ::CellModel& model, int id, int value)
+{
+    auto* const cell = static_cast<WQ::ComboCell*>(model.cell(id));
+    const QString before = cell->text();
+    if (cell->setData(value))
+        model.touchChoice(cell, before);
+}
+
 void setHidden(WQ::CellModel& model, int id, bool hidden)
 {
     if (model.cell(id)->setHidden(hidden))
@@ -69,6 +86,10 @@ private Q_SLOTS:
     void rowsThatStayKeepTheirIndexes();
     void changedValuesAreToldOnceARun();
     void changeOfAHiddenCellIsNotTold();
+    void choicesThatEndWhereTheyBeganAreNotTold();
+    void choicesAreToldWithAnyOtherChange();
+    void theFiltersLookIsToldOnceABatch();
+    void looksThatUndoEachOtherAreNotTold();
     void filterOffersAllItemsThatAreNotBlacklisted();
     void filterChangesAreToldOnlyWhenTheyChangeAnything();
     void rolesOfTheValue();
@@ -255,6 +276,80 @@ void tst_CellModel::changeOfAHiddenCellIsNotTold()
     model.touch(model.cell(2));
     QCoreApplication::processEvents();
     QCOMPARE(changed.count(), 0);
+}
+
+void tst_CellModel::choicesThatEndWhereTheyBeganAreNotTold()
+{
+    WQ::CellModel model;
+    model.add(choice(1));
+    model.flush();
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    choose(model, 1, 20);
+    choose(model, 1, 10);
+    model.flush();
+    QCOMPARE(changed.count(), 0);
+    choose(model, 1, 20);
+    model.flush();
+    QCOMPARE(changed.count(), 1);
+    // What was told is where the next batch begins.
+    choose(model, 1, 10);
+    choose(model, 1, 20);
+    model.flush();
+    QCOMPARE(changed.count(), 1);
+}
+
+void tst_CellModel::choicesAreToldWithAnyOtherChange()
+{
+    WQ::CellModel model;
+    model.add(choice(1));
+    model.flush();
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    choose(model, 1, 20);
+    model.cell(1)->setLabel(QStringLiteral("报价"));
+    model.touch(model.cell(1));
+    choose(model, 1, 10);
+    model.flush();
+    QCOMPARE(changed.count(), 1);
+    model.cell(1)->setLabel(QStringLiteral("报价方式"));
+    model.touch(model.cell(1));
+    choose(model, 1, 20);
+    choose(model, 1, 10);
+    model.flush();
+    QCOMPARE(changed.count(), 2);
+}
+
+void tst_CellModel::theFiltersLookIsToldOnceABatch()
+{
+    WQ::CellModel model;
+    fill(model, 2);
+    QSignalSpy looks(&model, &WQ::CellModel::filterLookChanged);
+    model.setVisibleSet({2});
+    model.setExpanded(true);
+    QCOMPARE(looks.count(), 0);
+    model.flush();
+    QCOMPARE(looks.count(), 1);
+    model.setEnabled(false); // an expanded table's filter is out of use already
+    model.setAllSet({1});
+    model.flush();
+    QCOMPARE(looks.count(), 1);
+    model.setExpanded(false);
+    model.setEnabled(true);
+    model.flush();
+    QCOMPARE(looks.count(), 2);
+}
+
+void tst_CellModel::looksThatUndoEachOtherAreNotTold()
+{
+    WQ::CellModel model;
+    fill(model, 2);
+    model.flush();
+    QSignalSpy looks(&model, &WQ::CellModel::filterLookChanged);
+    model.setVisibleSet({2});
+    model.setVisibleSet({});
+    model.setEnabled(false);
+    model.setEnabled(true);
+    model.flush();
+    QCOMPARE(looks.count(), 0);
 }
 
 void tst_CellModel::filterOffersAllItemsThatAreNotBlacklisted()

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <WQ/WqExport.h>
+
+#include <QFont>
+#include <QRawFont>
+#include <QString>
+
+#include <array>
+#include <optional>
+
+class QPainter;
+
+namespace WQ::texts {
+
+/// A part of a text, in pixels from its left.
+struct TextSpan
+{
+    int left = 0;
+    int width = 0;
+};
+
+/// A font as a table measures and draws with it. One a font for the life of the application, shared by every table.
+class WQ_EXPORT Face
+{
+public:
+    explicit Face(const QFont& font);
+    Face(const Face&) = delete;
+    Face& operator=(const Face&) = delete;
+
+    const QFont& font() const
+    {
+        return m_font;
+    }
+
+    /// Of a line of this font, without what a text of other fonts may add.
+    int height() const
+    {
+        return m_height;
+    }
+
+    /// Whether @p text is one of a number: digits, signs, points, commas, colons and blanks, of one glyph each that
+    /// stands where the one before it ends. Such a text needs no shaping, which is the most that a new text costs.
+    bool isNumber(const QString& text) const;
+
+    /// The width of a text that isNumber().
+    qreal numberWidth(const QString& text) const;
+
+    /// Where two numbers that start at the same place are not the same to the pixel; nothing where all may differ.
+    std::optional<TextSpan> difference(const QString& one, const QString& other) const;
+
+    /// Draws a text that isNumber() in the painter's pen, its top left corner at @p position.
+    void drawNumber(QPainter& painter, const QPoint& position, const QString& text) const;
+
+private:
+    static constexpr int kNumberCharacters = 64; // all of them are below
+
+    bool takeGlyphs();
+
+    QFont m_font;
+    QRawFont m_raw;
+    std::array<quint32, kNumberCharacters> m_glyphs{}; // 0: not of a number
+    std::array<qreal, kNumberCharacters> m_advances{};
+    int m_height;
+    int m_ascent;
+};
+
+/// The face of a font. There is an application.
+WQ_EXPORT const Face& faceOf(const QFont& font);
+
+} // namespace WQ::texts
