@@ -3,7 +3,6 @@
 #include "workbench/Appearance.h"
 #include "workbench/CreditPanel.h"
 #include "workbench/EventPanel.h"
-#include "workbench/FormScroll.h"
 #include "workbench/HostCalls.h"
 #include "workbench/Language.h"
 #include "workbench/LanguageTexts.h"
@@ -27,7 +26,6 @@
 #include <ttservice/CAccountInfoV2.h>
 
 #include <QCoreApplication>
-#include <QDockWidget>
 #include <QHBoxLayout>
 #include <QSet>
 #include <QStatusBar>
@@ -38,10 +36,6 @@ namespace workbench {
 namespace {
 
 constexpr QSize kFirstSize(1180, 760);
-constexpr int kSetupWidth = 280;
-constexpr int kControlsWidth = 380;
-constexpr int kEventsHeight = 240;
-constexpr int kQuoteHeight = 290;
 
 /// The IDs of the credit accounts: the table knows none, its host fills the combo.
 QStringList creditAccounts()
@@ -125,46 +119,6 @@ QWidget* MainWindow::createSetup()
     connect(m_look, &LookForm::scaleChosen, this, &MainWindow::chooseScale);
     connect(m_look, &LookForm::languageChosen, this, &MainWindow::chooseLanguage);
     return both;
-}
-
-void MainWindow::createDocks()
-{
-    const auto setup = addDock("setupDock", QT_TRANSLATE_NOOP("workbench", "Setup"), new FormScroll(createSetup()),
-                               Qt::LeftDockWidgetArea);
-    const auto quote = addDock("quoteDock", QT_TRANSLATE_NOOP("workbench", "Quote"), m_ladder, Qt::LeftDockWidgetArea);
-    const auto controls = addDock("controlsDock", QT_TRANSLATE_NOOP("workbench", "Host calls"),
-                                  new FormScroll(m_controls), Qt::RightDockWidgetArea);
-    const auto tasks = addDock("tasksDock", QT_TRANSLATE_NOOP("workbench", "Tasks"), m_tasks, Qt::RightDockWidgetArea);
-    const auto credit = addDock("creditDock", QT_TRANSLATE_NOOP("workbench", "Credit"), new FormScroll(m_credit),
-                                Qt::RightDockWidgetArea);
-    const auto ticket =
-        addDock("ticketDock", QT_TRANSLATE_NOOP("workbench", "Ticket"), m_ticket, Qt::RightDockWidgetArea);
-    const auto events =
-        addDock("eventsDock", QT_TRANSLATE_NOOP("workbench", "Events"), m_events, Qt::BottomDockWidgetArea);
-    const auto recorder =
-        addDock("recorderDock", QT_TRANSLATE_NOOP("workbench", "Recorder"), m_recorderPanel, Qt::BottomDockWidgetArea);
-    tabifyDockWidget(events, recorder);
-    events->raise();
-    tabifyDockWidget(controls, tasks);
-    tabifyDockWidget(controls, credit);
-    tabifyDockWidget(controls, ticket);
-    controls->raise();
-    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    const double scale = WQ::resources::scale();
-    resizeDocks({setup, controls}, {qRound(kSetupWidth * scale), qRound(kControlsWidth * scale)}, Qt::Horizontal);
-    resizeDocks({events}, {qRound(kEventsHeight * scale)}, Qt::Vertical);
-    resizeDocks({quote}, {qRound(kQuoteHeight * scale)}, Qt::Vertical);
-}
-
-QDockWidget* MainWindow::addDock(const char* name, const char* title, QWidget* content, Qt::DockWidgetArea area)
-{
-    auto* dock = new QDockWidget(this);
-    dock->setObjectName(QLatin1String(name));
-    dock->setWidget(content);
-    addDockWidget(area, dock);
-    m_docks << dock;
-    m_texts->keep([dock, title] { dock->setWindowTitle(translated(title)); });
-    return dock;
 }
 
 void MainWindow::listenTo(PanelHost* host)

@@ -4,6 +4,8 @@
 
 #include <QMainWindow>
 
+#include <vector>
+
 class QAction;
 class QDockWidget;
 class QMenu;
@@ -67,10 +69,24 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    /// A part of the window: the name that its place is kept under, its title, and the keys that lead to it.
+    struct DockRow
+    {
+        const char* name;
+        const char* title;
+        const char* keys;
+        Qt::DockWidgetArea area;
+        const char* tabbedWith; ///< an earlier row's name; empty for a place of its own
+        QWidget* (*content)(MainWindow& window);
+    };
+
     void createCentre();
     void createDocks();
     QWidget* createSetup();
-    QDockWidget* addDock(const char* name, const char* title, QWidget* content, Qt::DockWidgetArea area);
+    static const std::vector<DockRow>& dockRows();
+    void addDock(const DockRow& row);
+    QDockWidget* dock(const char* name) const;
+    static void goTo(QDockWidget* dock);
     void listenTo(PanelHost* host);
     void connectLadder();
     void readTable();
@@ -81,6 +97,7 @@ private:
     void createMenus();
     void createTableMenu();
     void createViewMenu();
+    void createPartsMenu(QMenu* view);
     void createThemeMenu(QMenu* view);
     void createScaleActions(QMenu* view);
     void createLanguageMenu(QMenu* view);

@@ -64,23 +64,25 @@ void MainWindow::createTableMenu()
 void MainWindow::createViewMenu()
 {
     QMenu* menu = addMenu(QT_TRANSLATE_NOOP("workbench", "&View"));
-    int number = Qt::Key_1;
-    for (QDockWidget* dock : qAsConst(m_docks)) {
-        menu->addAction(dock->toggleViewAction());
-        auto* raise = new QAction(dock);
-        raise->setShortcut(QKeySequence(int(Qt::CTRL) + number++));
-        dock->toggleViewAction()->setShortcut(QKeySequence());
-        connect(raise, &QAction::triggered, dock, [dock] {
-            dock->show();
-            dock->raise();
-            dock->widget()->setFocus(Qt::ShortcutFocusReason);
-        });
-        QWidget::addAction(raise);
+    for (const DockRow& row : dockRows()) {
+        QDockWidget* part = dock(row.name);
+        QAction* go = addAction(menu, row.title, QKeySequence(QLatin1String(row.keys)));
+        connect(go, &QAction::triggered, part, [part] { goTo(part); });
     }
+    menu->addSeparator();
+    createPartsMenu(menu);
     menu->addSeparator();
     createThemeMenu(menu);
     createScaleActions(menu);
     createLanguageMenu(menu);
+}
+
+void MainWindow::createPartsMenu(QMenu* view)
+{
+    QMenu* menu = view->addMenu(QString());
+    m_texts->keep([menu] { menu->setTitle(translated(QT_TRANSLATE_NOOP("workbench", "Show &parts"))); });
+    for (const QDockWidget* part : qAsConst(m_docks))
+        menu->addAction(part->toggleViewAction());
 }
 
 void MainWindow::createThemeMenu(QMenu* view)

@@ -36,6 +36,10 @@
         <translation>显示每个下单参数表和对话框，以及它们发出的事件。</translation>
     </message>
     <message>
+        <source>Show &amp;parts</source>
+        <translation>显示的部分(&amp;P)</translation>
+    </message>
+    <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
         <translation>多余的参数“%1”。</translation>
     </message>

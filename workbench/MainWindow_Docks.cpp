@@ -1,0 +1,109 @@
+#include "workbench/MainWindow.h"
+
+#include "workbench/CreditPanel.h"
+#include "workbench/EventPanel.h"
+#include "workbench/FormScroll.h"
+#include "workbench/LanguageTexts.h"
+#include "workbench/OrderControls.h"
+#include "workbench/QuoteLadder.h"
+#include "workbench/RecorderPanel.h"
+#include "workbench/TaskPanel.h"
+#include "workbench/TicketPanel.h"
+#include "workbench/Vocabulary.h"
+
+#include "reference/toolkit/Resources.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDockWidget>
+
+namespace workbench {
+
+namespace {
+
+constexpr int kSetupWidth = 280;
+constexpr int kControlsWidth = 380;
+constexpr int kEventsHeight = 240;
+constexpr int kQuoteHeight = 290;
+
+QWidget* scrolled(QWidget* form)
+{
+    return new FormScroll(form);
+}
+
+/// The first part of @p content that takes the keyboard by Tab, in the order of Tab.
+QWidget* firstField(QWidget* content)
+{
+    QWidget* step = content;
+    do {
+        if (content->isAncestorOf(step) && step->isEnabled() && (step->focusPolicy() & Qt::TabFocus)
+            && step->isVisibleTo(content))
+            return step;
+        step = step->nextInFocusChain();
+    } while (step != content);
+    return content;
+}
+
+} // namespace
+
+/// Rows stand in the order of the View menu. A part lies beside those of its area, or under the tab of another one.
+const std::vector<MainWindow::DockRow>& MainWindow::dockRows()
+{
+    constexpr auto kLeft = Qt::LeftDockWidgetArea;
+    constexpr auto kRight = Qt::RightDockWidgetArea;
+    constexpr auto kBottom = Qt::BottomDockWidgetArea;
+    // clang-format off
+    static const std::vector<DockRow> kRows = {
+        {"setupDock",    QT_TRANSLATE_NOOP("workbench", "Setup"),      "Ctrl+1", kLeft,   "",             [](MainWindow& w) { return scrolled(w.createSetup()); }},
+        {"quoteDock",    QT_TRANSLATE_NOOP("workbench", "Quote"),      "Ctrl+2", kLeft,   "",             [](MainWindow& w) { return static_cast<QWidget*>(w.m_ladder); }},
+        {"controlsDock", QT_TRANSLATE_NOOP("workbench", "Host calls"), "Ctrl+3", kRight,  "",             [](MainWindow& w) { return scrolled(w.m_controls); }},
+        {"tasksDock",    QT_TRANSLATE_NOOP("workbench", "Tasks"),      "Ctrl+4", kRight,  "controlsDock", [](MainWindow& w) { return static_cast<QWidget*>(w.m_tasks); }},
+        {"creditDock",   QT_TRANSLATE_NOOP("workbench", "Credit"),     "Ctrl+5", kRight,  "controlsDock", [](MainWindow& w) { return scrolled(w.m_credit); }},
+        {"ticketDock",   QT_TRANSLATE_NOOP("workbench", "Ticket"),     "Ctrl+6", kRight,  "controlsDock", [](MainWindow& w) { return static_cast<QWidget*>(w.m_ticket); }},
+        {"eventsDock",   QT_TRANSLATE_NOOP("workbench", "Events"),     "Ctrl+7", kBottom, "",             [](MainWindow& w) { return static_cast<QWidget*>(w.m_events); }},
+        {"recorderDock", QT_TRANSLATE_NOOP("workbench", "Recorder"),   "Ctrl+8", kBottom, "eventsDock",   [](MainWindow& w) { return static_cast<QWidget*>(w.m_recorderPanel); }},
+    };
+    // clang-format on
+    return kRows;
+}
+
+void MainWindow::createDocks()
+{
+    for (const DockRow& row : dockRows())
+        addDock(row);
+    for (const char* name : {"eventsDock", "controlsDock"})
+        dock(name)->raise();
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    const double scale = WQ::resources::scale();
+    resizeDocks({dock("setupDock"), dock("controlsDock")},
+                {qRound(kSetupWidth * scale), qRound(kControlsWidth * scale)}, Qt::Horizontal);
+    resizeDocks({dock("eventsDock")}, {qRound(kEventsHeight * scale)}, Qt::Vertical);
+    resizeDocks({dock("quoteDock")}, {qRound(kQuoteHeight * scale)}, Qt::Vertical);
+}
+
+void MainWindow::addDock(const DockRow& row)
+{
+    auto* dock = new QDockWidget(this);
+    dock->setObjectName(QLatin1String(row.name));
+    dock->setWidget(row.content(*this));
+    addDockWidget(row.area, dock);
+    if (QDockWidget* neighbour = this->dock(row.tabbedWith))
+        tabifyDockWidget(neighbour, dock);
+    m_docks << dock;
+    m_texts->keep([dock, title = row.title] { dock->setWindowTitle(translated(title)); });
+}
+
+QDockWidget* MainWindow::dock(const char* name) const
+{
+    return findChild<QDockWidget*>(QLatin1String(name), Qt::FindDirectChildrenOnly);
+}
+
+void MainWindow::goTo(QDockWidget* dock)
+{
+    dock->show();
+    dock->raise();
+    dock->activateWindow();
+    firstField(dock->widget())->setFocus(Qt::ShortcutFocusReason);
+}
+
+} // namespace workbench
