@@ -59,7 +59,7 @@ quint32 COrderParamBaseTable::hideCellsByRules()
 {
     const auto* const volume = dynamic_cast<const WQ::CComboBoxDelegate*>(m_table->getItem(OCF_BaseVolume));
     const CellVisibilityState cells{m_id, m_orderType, m_flags, bSuperPriceStartHide(),
-                                    volume && volume->currentData().toInt() == VOLUME_TYPE_REMAINING};
+                                    volume && asksForTailVolume(volume->currentData().toInt())};
     const ModuleQuery modules = isModuleOn;
     quint32 visible = 0;
     for (int bit = 0; bit < kCellBits; ++bit) {
@@ -96,7 +96,7 @@ void COrderParamBaseTable::setExpandItemsHidden(bool hidden)
             m_table->showAllItems();
         else
             loadVisibleFlag();
-        if (m_orderType == ORDER_TYPE_ALGORITHM)
+        if (hasAlgorithmCells(m_orderType))
             hideAlgorithmCells(hidden);
         resetSuperPriceShow();
         fitTableHeight();
@@ -108,9 +108,9 @@ void COrderParamBaseTable::hideAlgorithmCells(bool hidden)
 {
     const quint32 word = m_visibleFlags[ORDER_TYPE_ALGORITHM];
     for (const AlgorithmCell& row : kAlgorithmCells) {
-        const bool isKept = !row.isHiddenOnCollapse || (word & quint32(row.cell)) != 0;
-        if (!hidden || !isKept)
-            m_table->setItemHidden(row.cell, hidden);
+        const HiddenMark mark = expansionMark(row, !hidden, word);
+        if (mark != HiddenMark::Kept)
+            m_table->setItemHidden(row.cell, mark == HiddenMark::Hidden);
     }
 }
 

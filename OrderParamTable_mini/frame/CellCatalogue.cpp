@@ -2,6 +2,7 @@
 
 #include <OrderParamTable_mini/frame/CellUnits.h>
 #include <OrderParamTable_mini/frame/UnfinishedHandling.h>
+#include <OrderParamTable_mini/semantics/CellOffers.h>
 #include <OrderParamTable_mini/semantics/IdentitySets.h>
 #include <OrderParamTable_mini/semantics/OrderVocabulary.h>
 #include <OrderParamTable_mini/semantics/PriceTypes.h>
@@ -25,14 +26,12 @@ struct Context
     WQ::CMultiParamsTable& table;
     const OrderState& state;
     ComboEntries& priceTypes;
-    const ModuleQuery& isModuleOn;
 };
 
 struct CellRow
 {
     EOperationCellFlag id;
     const char16_t* label;
-    bool (*isOffered)(const Context&);
     void (*add)(const Context&, int id, const QString& label);
 };
 
@@ -41,41 +40,6 @@ constexpr int kParamCellConstant = 4;
 constexpr double kUnitCellConstant = -1.0;
 constexpr double kRangeCellConstant = 1.0;
 constexpr int kRangeCellPlaces = -1;
-
-bool always(const Context&)
-{
-    return true;
-}
-
-bool hasPriceTypes(const Context& context)
-{
-    return !context.priceTypes.values.isEmpty();
-}
-
-bool hasSuperPrice(const Context& context)
-{
-    return brokerGroup(context.state.broker) != BrokerGroup::HongKong;
-}
-
-bool hasVolumeType(const Context& context)
-{
-    return hasBaseVolume(context.state.broker);
-}
-
-bool hasRandomVolume(const Context& context)
-{
-    return mayRandomiseVolume(context.state, context.isModuleOn);
-}
-
-bool hasLimitPrice(const Context& context)
-{
-    return kTablesWithLimitPrice.contains(context.state.identity);
-}
-
-bool hasRemark(const Context& context)
-{
-    return context.isModuleOn(FeatureModule::CommandRemark);
-}
 
 void addCombo(WQ::CMultiParamsTable& table, int id, const QString& label, ComboEntries entries, int index)
 {
@@ -171,7 +135,7 @@ void addLimitPrice(const Context& context, int id, const QString& label)
 {
     context.table.addParamCell(id, label, kDoubleValue, 0, kLargestAmount, 0.01, QStringLiteral("元"), 0,
                                kParamCellConstant);
-    context.table.setItemHidden(id, true);
+    context.table.setItemHidden(id, isCreatedHidden(id));
 }
 
 constexpr char16_t kRemarkLabel[] = u"投资备注";
@@ -183,23 +147,23 @@ void addRemark(const Context& context, int, const QString&)
 
 // clang-format off
 constexpr CellRow kCells[] = {
-    {OCF_PriceType,               u"报价方式",     hasPriceTypes,   addPriceType},
-    {OCF_SuperPrice,              u"单笔超价",     hasSuperPrice,   addSuperPrice},
-    {OCF_BaseVolume,              u"单笔基准量",   hasVolumeType,   addBaseVolume},
-    {OCF_TailMinVolume,           u"尾单最小量",   always,          addTailVolume},
-    {OCF_SuperPriceStartCount,    u"超价启用笔数", hasSuperPrice,   addStartCount},
-    {OCF_FluctuationCheck,        u"波动区间",     always,          addFluctuationCheck},
-    {OCF_MinSingleVolume,         u"单笔最小量",   always,          addSingleVolume},
-    {OCF_MaxSingleVolume,         u"单笔最大量",   always,          addSingleVolume},
-    {OCF_ValidTime,               u"有效时间",     always,          addValidTime},
-    {OCF_MaxOrderCount,           u"最大委托次数", always,          addOrderCount},
-    {OCF_UnfinishedOrderHandling, u"未成委托处理", always,          addOrderHandling},
-    {OCF_SingleVolumeRange,       u"单笔量区间",   hasRandomVolume, addVolumeRange},
-    {OCF_InitialQuote,            u"初始报价",     always,          addInitialQuote},
-    {OCF_UnfinishedHandling,      u"未成处理",     always,          addUnfinishedHandling},
-    {OCF_PriceFluctuation,        u"波动区间",     always,          addPriceFluctuation},
-    {OCF_LimitPrice,              u"限价",         hasLimitPrice,   addLimitPrice},
-    {OCF_InvestRemark,            kRemarkLabel,    hasRemark,       addRemark},
+    {OCF_PriceType,               u"报价方式",     addPriceType},
+    {OCF_SuperPrice,              u"单笔超价",     addSuperPrice},
+    {OCF_BaseVolume,              u"单笔基准量",   addBaseVolume},
+    {OCF_TailMinVolume,           u"尾单最小量",   addTailVolume},
+    {OCF_SuperPriceStartCount,    u"超价启用笔数", addStartCount},
+    {OCF_FluctuationCheck,        u"波动区间",     addFluctuationCheck},
+    {OCF_MinSingleVolume,         u"单笔最小量",   addSingleVolume},
+    {OCF_MaxSingleVolume,         u"单笔最大量",   addSingleVolume},
+    {OCF_ValidTime,               u"有效时间",     addValidTime},
+    {OCF_MaxOrderCount,           u"最大委托次数", addOrderCount},
+    {OCF_UnfinishedOrderHandling, u"未成委托处理", addOrderHandling},
+    {OCF_SingleVolumeRange,       u"单笔量区间",   addVolumeRange},
+    {OCF_InitialQuote,            u"初始报价",     addInitialQuote},
+    {OCF_UnfinishedHandling,      u"未成处理",     addUnfinishedHandling},
+    {OCF_PriceFluctuation,        u"波动区间",     addPriceFluctuation},
+    {OCF_LimitPrice,              u"限价",         addLimitPrice},
+    {OCF_InvestRemark,            kRemarkLabel,    addRemark},
 };
 // clang-format on
 
@@ -222,11 +186,12 @@ const LabelList& cellLabels()
 void addCells(WQ::CMultiParamsTable& table, const OrderState& state, ComboEntries& priceTypes,
               const ModuleQuery& isModuleOn)
 {
-    const Context context{table, state, priceTypes, isModuleOn};
+    const Context context{table, state, priceTypes};
     const LabelList& labels = cellLabels();
+    const bool hasPriceTypes = !priceTypes.values.isEmpty();
     for (std::size_t i = 0; i < std::size(kCells); ++i) {
         const CellRow& row = kCells[i];
-        if (row.isOffered(context))
+        if (isCellOffered(row.id, state, hasPriceTypes, isModuleOn))
             row.add(context, row.id, labels[i]);
     }
 }

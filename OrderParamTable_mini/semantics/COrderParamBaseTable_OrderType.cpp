@@ -2,6 +2,7 @@
 
 #include <OrderParamTable_mini/frame/HeldException.h>
 #include <OrderParamTable_mini/frame/Services.h>
+#include <OrderParamTable_mini/semantics/CellMasks.h>
 #include <OrderParamTable_mini/semantics/OrderModes.h>
 #include <OrderParamTable_mini/semantics/OrderState.h>
 #include <OrderParamTable_mini/semantics/VolumeTypes.h>
@@ -73,7 +74,7 @@ int COrderParamBaseTable::singleVolType() const
 void COrderParamBaseTable::onVolumeTypeChange(EVolumeType type)
 {
     if (m_table)
-        m_table->setItemHidden(OCF_TailMinVolume, type != VOLUME_TYPE_REMAINING);
+        m_table->setItemHidden(OCF_TailMinVolume, !asksForTailVolume(type));
 }
 
 EVolumeType COrderParamBaseTable::getRealVolumeType(EVolumeType type) const

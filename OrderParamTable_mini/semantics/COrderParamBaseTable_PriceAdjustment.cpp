@@ -2,6 +2,7 @@
 
 #include <OrderParamTable_mini/frame/CellUnits.h>
 #include <OrderParamTable_mini/frame/HeldException.h>
+#include <OrderParamTable_mini/semantics/CellMasks.h>
 #include <OrderParamTable_mini/semantics/PriceAdjustment.h>
 
 #include <WQ/CCheckParamUnitCellDelegate.h>
@@ -71,8 +72,8 @@ void COrderParamBaseTable::resetSuperPriceShow() const
     m_table->addAllItemSet(OCF_SuperPrice);
     if (m_orderType != ORDER_TYPE_NORMAL)
         m_table->addAllItemSet(OCF_SuperPriceStartCount);
-    m_table->setItemHidden(OCF_SuperPrice, false);
-    m_table->setItemHidden(OCF_SuperPriceStartCount, bSuperPriceStartHide());
+    for (const int cell : kSuperPriceCells)
+        m_table->setItemHidden(cell, superPriceMark(cell, bSuperPriceStartHide()) == HiddenMark::Hidden);
 }
 
 void COrderParamBaseTable::fixSuperPrice()
@@ -107,7 +108,7 @@ bool COrderParamBaseTable::bSuperPriceHide() const
 
 bool COrderParamBaseTable::bSuperPriceStartHide() const
 {
-    return !m_expand || m_orderType == ORDER_TYPE_NORMAL;
+    return isStartCountHidden(m_expand, m_orderType);
 }
 
 double COrderParamBaseTable::getModifiedPriceByOptTypeForCalc(EOperationType operationType, bool zeroIfUnset) const
@@ -136,15 +137,15 @@ void COrderParamBaseTable::modPriceCell()
 
 void COrderParamBaseTable::resetTableByPriceType()
 {
-    const bool listsPrices = m_orderType == ORDER_TYPE_NORMAL || m_orderType == ORDER_TYPE_ALGORITHM;
-    if (!m_table || !listsPrices)
+    if (!m_table || !hasPriceTypeCells(m_orderType))
         return;
-    m_table->setItemHidden(OCF_TriggerPrice, true);
+    const auto isHidden = [this](int cell) { return priceTypeMark(cell, m_orderType) == HiddenMark::Hidden; };
+    m_table->setItemHidden(OCF_TriggerPrice, isHidden(OCF_TriggerPrice));
     m_table->setItemFilterBlacklist(OCF_TriggerPrice, true);
     m_table->setItemFilterBlacklist(OCF_LimitPrice, false);
     // Passing through the visible set brings the cell up in a filtered table.
     m_table->addVisibleItemSet(OCF_LimitPrice);
-    m_table->setItemHidden(OCF_LimitPrice, false);
+    m_table->setItemHidden(OCF_LimitPrice, isHidden(OCF_LimitPrice));
     m_table->removeVisbleItemSet(OCF_LimitPrice);
     resetSuperPriceShow();
 }

@@ -22,53 +22,53 @@ constexpr MaskRow kMasks[] = {
 };
 // clang-format on
 
-using CellRule = bool (*)(bool allowed, const CellVisibilityState& state, const ModuleQuery& isModuleOn);
-
-bool always(bool, const CellVisibilityState&, const ModuleQuery&)
-{
-    return true;
-}
-
-bool unlessStartCountHidden(bool, const CellVisibilityState& state, const ModuleQuery&)
-{
-    return !state.startCountHidden;
-}
-
-bool forRemainingVolume(bool allowed, const CellVisibilityState& state, const ModuleQuery&)
-{
-    return allowed && state.remainingVolume;
-}
-
-bool whereRemarksAreKept(bool allowed, const CellVisibilityState& state, const ModuleQuery& isModuleOn)
-{
-    return allowed && !kCloseSettingTables.contains(state.identity) && !kTablesHidingRemark.contains(state.identity)
-        && isModuleOn(FeatureModule::CommandRemark);
-}
-
-template <FeatureModule module>
-bool withModule(bool allowed, const CellVisibilityState&, const ModuleQuery& isModuleOn)
-{
-    return allowed && isModuleOn(module);
-}
-
 struct OverrideRow
 {
     int cell;
-    CellRule rule;
+    CellOverride kind;
+    std::optional<FeatureModule> module;
 };
 
 // The super-price cells are shown by rules of their own, whatever the flags and the mask say.
 // clang-format off
 constexpr OverrideRow kOverrides[] = {
-    {OCF_SuperPrice,           always},
-    {OCF_SuperPriceStartCount, unlessStartCountHidden},
-    {OCF_TailMinVolume,        forRemainingVolume},
-    {OCF_InvestRemark,         whereRemarksAreKept},
-    {OCF_TriggerPrice,         withModule<FeatureModule::TriggerPrice>},
-    {OCF_StopProfit,           withModule<FeatureModule::StopProfitLoss>},
-    {OCF_StopLoss,             withModule<FeatureModule::StopProfitLoss>},
+    {OCF_SuperPrice,           CellOverride::Always,          {}},
+    {OCF_SuperPriceStartCount, CellOverride::StartCount,      {}},
+    {OCF_TailMinVolume,        CellOverride::RemainingVolume, {}},
+    {OCF_InvestRemark,         CellOverride::Remark,          FeatureModule::CommandRemark},
+    {OCF_TriggerPrice,         CellOverride::Module,          FeatureModule::TriggerPrice},
+    {OCF_StopProfit,           CellOverride::Module,          FeatureModule::StopProfitLoss},
+    {OCF_StopLoss,             CellOverride::Module,          FeatureModule::StopProfitLoss},
 };
 // clang-format on
+
+const OverrideRow* overrideRow(int cell)
+{
+    for (const OverrideRow& row : kOverrides) {
+        if (row.cell == cell)
+            return &row;
+    }
+    return nullptr;
+}
+
+bool overridden(const OverrideRow& row, bool allowed, const CellVisibilityState& state, const ModuleQuery& isModuleOn)
+{
+    switch (row.kind) {
+    case CellOverride::None:
+        break;
+    case CellOverride::Always:
+        return true;
+    case CellOverride::StartCount:
+        return !state.startCountHidden;
+    case CellOverride::RemainingVolume:
+        return allowed && state.remainingVolume;
+    case CellOverride::Remark:
+        return allowed && showsRemark(state.identity) && isModuleOn(*row.module);
+    case CellOverride::Module:
+        return allowed && isModuleOn(*row.module);
+    }
+    return allowed;
+}
 
 } // namespace
 
@@ -81,14 +81,70 @@ quint32 orderTypeMask(EOrderType type)
     return ~quint32(0);
 }
 
+CellOverride cellOverride(int cell)
+{
+    const OverrideRow* const row = overrideRow(cell);
+    return row ? row->kind : CellOverride::None;
+}
+
+std::optional<FeatureModule> overrideModule(int cell)
+{
+    const OverrideRow* const row = overrideRow(cell);
+    return row ? row->module : std::nullopt;
+}
+
+bool showsRemark(int identity)
+{
+    return !kCloseSettingTables.contains(identity) && !kTablesHidingRemark.contains(identity);
+}
+
 bool isCellVisible(int cell, const CellVisibilityState& state, const ModuleQuery& isModuleOn)
 {
-    const bool allowed = (quint32(int(state.flags)) & orderTypeMask(state.order) & quint32(cell)) != 0;
-    for (const OverrideRow& row : kOverrides) {
-        if (row.cell == cell)
-            return row.rule(allowed, state, isModuleOn);
+    const bool allowed = hasCell(quint32(int(state.flags)) & orderTypeMask(state.order), cell);
+    const OverrideRow* const row = overrideRow(cell);
+    return row ? overridden(*row, allowed, state, isModuleOn) : allowed;
+}
+
+HiddenMark superPriceMark(int cell, bool startCountHidden)
+{
+    switch (cell) {
+    case OCF_SuperPrice:
+        return HiddenMark::Shown;
+    case OCF_SuperPriceStartCount:
+        return startCountHidden ? HiddenMark::Hidden : HiddenMark::Shown;
+    default:
+        return HiddenMark::Kept;
     }
-    return allowed;
+}
+
+HiddenMark priceTypeMark(int cell, EOrderType order)
+{
+    if (!hasPriceTypeCells(order))
+        return HiddenMark::Kept;
+    switch (cell) {
+    case OCF_TriggerPrice:
+        return HiddenMark::Hidden;
+    case OCF_LimitPrice:
+        return HiddenMark::Shown;
+    default:
+        return HiddenMark::Kept;
+    }
+}
+
+HiddenMark expansionMark(const AlgorithmCell& row, bool expanded, quint32 word)
+{
+    if (expanded)
+        return HiddenMark::Shown;
+    return row.isHiddenOnCollapse && !hasCell(word, row.cell) ? HiddenMark::Hidden : HiddenMark::Kept;
+}
+
+HiddenMark expansionMark(int cell, EOrderType order, bool expanded, quint32 word)
+{
+    for (const AlgorithmCell& row : kAlgorithmCells) {
+        if (row.cell == cell && hasAlgorithmCells(order))
+            return expansionMark(row, expanded, word);
+    }
+    return HiddenMark::Kept;
 }
 
 } // namespace TC

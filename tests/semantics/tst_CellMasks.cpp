@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+#include <map>
+
 using TC::FeatureModule;
 
 namespace {
@@ -137,6 +139,11 @@ private Q_SLOTS:
     void remainingVolumeAloneShowsTheTailMinimum();
     void limitPriceKeepsItsHiddenMark();
     void cellsOfTheFirstAlgorithmThatExpandingShows();
+    void overridesOfTheCells();
+    void expandingShowsAndCollapsingHidesByTheWord();
+    void otherOrderTypesKeepTheirMarks();
+    void superPriceCellsAreShownAgain();
+    void priceTypesShowTheLimitAndHideTheTrigger();
 };
 
 void tst_CellMasks::rulesSpeakOfTwentyEightCells()
@@ -234,6 +241,88 @@ void tst_CellMasks::cellsOfTheFirstAlgorithmThatExpandingShows()
     }
     QCOMPARE(shown, (std::set<int>{0x8, 0x200, 0x400, 0x800, 0x1000, 0x2000}));
     QCOMPARE(hiddenOnCollapse, (std::set<int>{0x200, 0x400, 0x800, 0x1000, 0x2000}));
+}
+
+void tst_CellMasks::overridesOfTheCells()
+{
+    using TC::CellOverride;
+    const std::map<int, CellOverride> expected{{0x2, CellOverride::Always},           {0x4, CellOverride::StartCount},
+                                               {0x40, CellOverride::RemainingVolume}, {0x100000, CellOverride::Module},
+                                               {0x200000, CellOverride::Module},      {0x400000, CellOverride::Module},
+                                               {0x4000000, CellOverride::Remark}};
+    const std::map<int, FeatureModule> modules{{0x100000, FeatureModule::TriggerPrice},
+                                               {0x200000, FeatureModule::StopProfitLoss},
+                                               {0x400000, FeatureModule::StopProfitLoss},
+                                               {0x4000000, FeatureModule::CommandRemark}};
+    for (int bit = 0; bit < 32; ++bit) {
+        const int cell = int(1u << bit);
+        const auto row = expected.find(cell);
+        QCOMPARE(int(TC::cellOverride(cell)), int(row == expected.end() ? CellOverride::None : row->second));
+        const auto module = modules.find(cell);
+        QCOMPARE(TC::overrideModule(cell).has_value(), module != modules.end());
+        if (module != modules.end())
+            QCOMPARE(int(*TC::overrideModule(cell)), int(module->second));
+    }
+    for (const int identity : ruletext::manyIntegers())
+        QCOMPARE(TC::showsRemark(identity), kTablesWithoutRemark.count(identity) == 0);
+}
+
+void tst_CellMasks::expandingShowsAndCollapsingHidesByTheWord()
+{
+    using TC::HiddenMark;
+    const std::set<int> collapsing{0x200, 0x400, 0x800, 0x1000, 0x2000};
+    for (int bit = 0; bit < 28; ++bit) {
+        const int cell = 1 << bit;
+        const bool isOfAlgorithm = cell == 0x8 || collapsing.count(cell) != 0;
+        const auto mark = [cell](bool expanded, quint32 word) {
+            return TC::expansionMark(cell, ttservice::ORDER_TYPE_ALGORITHM, expanded, word);
+        };
+        QCOMPARE(int(mark(true, 0)), int(isOfAlgorithm ? HiddenMark::Shown : HiddenMark::Kept));
+        QCOMPARE(int(mark(false, 0)), int(collapsing.count(cell) ? HiddenMark::Hidden : HiddenMark::Kept));
+        QCOMPARE(int(mark(false, quint32(cell))), int(HiddenMark::Kept));
+        QCOMPARE(int(mark(false, ~quint32(cell))), int(collapsing.count(cell) ? HiddenMark::Hidden : HiddenMark::Kept));
+    }
+}
+
+void tst_CellMasks::otherOrderTypesKeepTheirMarks()
+{
+    for (const int order : ruletext::manyIntegers()) {
+        if (order == 1)
+            continue;
+        for (int bit = 0; bit < 28; ++bit) {
+            for (const bool expanded : {false, true})
+                QCOMPARE(int(TC::expansionMark(1 << bit, ttservice::EOrderType(order), expanded, 0)),
+                         int(TC::HiddenMark::Kept));
+        }
+    }
+}
+
+void tst_CellMasks::superPriceCellsAreShownAgain()
+{
+    using TC::HiddenMark;
+    for (int bit = 0; bit < 28; ++bit) {
+        const int cell = 1 << bit;
+        const HiddenMark shown = cell == 0x2 || cell == 0x4 ? HiddenMark::Shown : HiddenMark::Kept;
+        QCOMPARE(int(TC::superPriceMark(cell, false)), int(shown));
+        QCOMPARE(int(TC::superPriceMark(cell, true)), int(cell == 0x4 ? HiddenMark::Hidden : shown));
+    }
+    for (const int order : ruletext::manyIntegers()) {
+        QVERIFY(TC::isStartCountHidden(false, ttservice::EOrderType(order)));
+        QCOMPARE(TC::isStartCountHidden(true, ttservice::EOrderType(order)), order == 0);
+    }
+}
+
+void tst_CellMasks::priceTypesShowTheLimitAndHideTheTrigger()
+{
+    using TC::HiddenMark;
+    for (const int order : ruletext::manyIntegers()) {
+        for (int bit = 0; bit < 28; ++bit) {
+            HiddenMark expected = HiddenMark::Kept;
+            if (order == 0 || order == 1)
+                expected = bit == 20 ? HiddenMark::Hidden : bit == 25 ? HiddenMark::Shown : HiddenMark::Kept;
+            QCOMPARE(int(TC::priceTypeMark(1 << bit, ttservice::EOrderType(order))), int(expected));
+        }
+    }
 }
 
 QTEST_APPLESS_MAIN(tst_CellMasks)
