@@ -1,5 +1,7 @@
 #include "benchmarks/PanelContent.h"
 
+#include <QHash>
+
 #include <algorithm>
 
 namespace bench {
@@ -64,9 +66,24 @@ constexpr std::array<Row, kRowCount> kRows = {
 };
 // clang-format on
 
+// A host makes its texts and lists once and hands the same ones to every panel; so do all the contenders.
 QString text(const char16_t* characters)
 {
-    return QString::fromUtf16(characters);
+    static QHash<const char16_t*, QString> made;
+    QString& kept = made[characters];
+    if (kept.isNull())
+        kept = QString::fromUtf16(characters);
+    return kept;
+}
+
+template <class List, class Value>
+const List& keptList(const Entries& entries, Value value)
+{
+    static QHash<const Entry*, List> made;
+    List& kept = made[entries.first];
+    for (std::size_t i = std::size_t(kept.size()); i < entries.count; ++i)
+        kept.append(value(entries.first[i]));
+    return kept;
 }
 
 QString number(double value, const Unit& unit)
@@ -105,18 +122,12 @@ QString shownText(const Row& row, double value, const Unit& unit, const Entries&
 
 QStringList Entries::texts() const
 {
-    QStringList list;
-    for (std::size_t i = 0; i < count; ++i)
-        list.append(text(first[i].text));
-    return list;
+    return keptList<QStringList>(*this, [](const Entry& entry) { return text(entry.text); });
 }
 
 QVector<QVariant> Entries::values() const
 {
-    QVector<QVariant> list;
-    for (std::size_t i = 0; i < count; ++i)
-        list.append(first[i].value);
-    return list;
+    return keptList<QVector<QVariant>>(*this, [](const Entry& entry) { return QVariant(entry.value); });
 }
 
 QString Unit::name() const
