@@ -2,6 +2,7 @@
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 #include "reference/toolkit/GuiThread.h"
+#include "reference/toolkit/editors/CellFlash.h"
 
 #include <WQ/CCheckParamUnitCellDelegate.h>
 #include <WQ/CComboBoxDelegate.h>
@@ -239,12 +240,22 @@ void CMultiParamsTable::setItemName(int id, QString name)
 
 void CMultiParamsTable::setItemUnit(int id, QString unit)
 {
-    d->change(id, [&unit](CellItem& cell) { return cell.setUnit(unit); });
+    d->change(id, [&](CellItem& cell) {
+        const UnitSwitch change(*d, cell);
+        const bool seen = cell.setUnit(unit);
+        change.tell();
+        return seen;
+    });
 }
 
 void CMultiParamsTable::setItemUnit(int id, QString unit, double min, double max, double step, bool makeCurrent)
 {
-    d->change(id, [&](CellItem& cell) { return cell.setUnit(unit, min, max, step, makeCurrent); });
+    d->change(id, [&](CellItem& cell) {
+        const UnitSwitch change(*d, cell);
+        const bool seen = cell.setUnit(unit, min, max, step, makeCurrent);
+        change.tell();
+        return seen;
+    });
 }
 
 void CMultiParamsTable::setItemTick(int id, QString unit, double step)

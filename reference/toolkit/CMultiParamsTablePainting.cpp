@@ -52,7 +52,7 @@ QString CMultiParamsTablePrivate::elidedTexts(const CellItem& cell) const
 
 QString CMultiParamsTablePrivate::toolTipOf(const CellItem& cell) const
 {
-    QStringList lines{elidedTexts(cell), cell.offGridText()};
+    QStringList lines{elidedTexts(cell), cell.rangeText(), cell.offGridText()};
     lines.removeAll(QString());
     const QString text = lines.join(QLatin1Char('\n'));
     return text.size() <= kLongestToolTip ? text : text.left(kLongestToolTip) + QChar(0x2026);

@@ -111,6 +111,11 @@ bool CellItem::setTick(const QString&, double)
     return false;
 }
 
+QString CellItem::rangeText() const
+{
+    return QString();
+}
+
 QString CellItem::offGridText() const
 {
     return QString();

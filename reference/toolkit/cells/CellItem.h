@@ -97,6 +97,9 @@ public:
     virtual bool setUnit(const QString& unit, double min, double max, double step, bool makeCurrent);
     virtual bool setTick(const QString& unit, double step);
 
+    /// What the current unit lets a person type; empty for a value without limits.
+    virtual QString rangeText() const;
+
     /// Why the value is marked as off its grid, with the nearest grid values; empty when it is not.
     virtual QString offGridText() const;
 

@@ -50,7 +50,7 @@ const QColor& labelColor(bool enabled)
 
 const QColor& unitColor(const RowState& state)
 {
-    return state.enabled && state.unitMouse ? palette().value : palette().unit;
+    return state.enabled && (state.unitMouse || state.flash) ? palette().value : palette().unit;
 }
 
 const QColor& footerColor(const FooterState& state)
@@ -62,10 +62,25 @@ const QColor& footerColor(const FooterState& state)
     return state.mouse ? palette().value : palette().label;
 }
 
+// A tint, on which the texts of the row can still be read, a unit in the colour of the value.
+const QColor& flashGround()
+{
+    constexpr qreal kShare = 0.2;
+    static QColor ground;
+    const QColor& row = palette().row;
+    const QColor& notice = palette().notice;
+    const auto mixed = [](qreal from, qreal to) { return from + (to - from) * kShare; };
+    ground.setRgbF(mixed(row.redF(), notice.redF()), mixed(row.greenF(), notice.greenF()),
+                   mixed(row.blueF(), notice.blueF()));
+    return ground;
+}
+
 const QColor& groundOf(const RowState& state)
 {
     if (state.wrong)
         return palette().wrongFill;
+    if (state.flash)
+        return flashGround();
     if (state.focus)
         return palette().rowFocus;
     return state.mouse && state.enabled ? palette().rowMouse : palette().row;

@@ -18,6 +18,7 @@ struct RowState
     bool mouse = false;     ///< the mouse is over it
     bool wrong = false;     ///< what stands in its editor is wrong
     bool editing = false;   ///< an editor stands over the value, which is not painted
+    bool flash = false;     ///< its number has just been bounded
     bool unitMouse = false; ///< the mouse is over the unit of an enabled cell with several
 };
 

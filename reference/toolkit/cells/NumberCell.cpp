@@ -172,6 +172,11 @@ bool NumberCell::setTick(const QString& unit, double step)
     return !looksSame(before, currentUnit());
 }
 
+QString NumberCell::rangeText() const
+{
+    return WQ::rangeText(currentUnit());
+}
+
 QString NumberCell::offGridText() const
 {
     return WQ::offGridText(currentUnit(), m_value);

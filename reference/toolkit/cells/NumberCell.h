@@ -53,6 +53,7 @@ public:
     bool setUnit(const QString& unit) override;
     bool setUnit(const QString& unit, double min, double max, double step, bool makeCurrent) override;
     bool setTick(const QString& unit, double step) override;
+    QString rangeText() const override;
     QString offGridText() const override;
 
     /// What becomes of a typed text in the current unit.

@@ -53,6 +53,33 @@ bool isZero(const QString& text)
     return true;
 }
 
+// Beyond, no person meets the limit, and its digits would fill the line.
+bool isLimit(double limit)
+{
+    return std::abs(limit) < kLargestExact;
+}
+
+QString withUnit(const NumberUnit& unit, const QString& text)
+{
+    return unit.text.isEmpty() ? text : text + QLatin1Char(' ') + unit.text;
+}
+
+// A whole number stops at the ends of 32 bits, be its limits wider.
+NumberUnit reachable(const NumberUnit& unit)
+{
+    NumberUnit bounds = unit;
+    if (unit.isWhole()) {
+        bounds.min = std::max<double>(unit.min, std::numeric_limits<int>::min());
+        bounds.max = std::min<double>(unit.max, std::numeric_limits<int>::max());
+    }
+    return bounds;
+}
+
+QString inBrackets(const QString& text)
+{
+    return text.isEmpty() ? text : QStringLiteral("（%1）").arg(text);
+}
+
 double multiple(double step, double count)
 {
     // Through the text, so that 3 * 0.1 is the 0.3 that a person types.
@@ -155,12 +182,15 @@ QString numberText(const NumberUnit& unit, double value)
 
 QString rangeText(const NumberUnit& unit)
 {
-    const int decimals = unit.isWhole() ? 0 : decimalsOf(unit);
-    QString text = groupedDigits(numberText(unit.min, decimals)) + QStringLiteral(" – ")
-        + groupedDigits(numberText(unit.max, decimals));
-    if (!unit.text.isEmpty())
-        text += QLatin1Char(' ') + unit.text;
-    return text;
+    const bool hasMin = isLimit(unit.min);
+    const bool hasMax = isLimit(unit.max);
+    const QString min = groupedDigits(numberText(unit, unit.min));
+    const QString max = groupedDigits(numberText(unit, unit.max));
+    if (!hasMin && !hasMax)
+        return QString();
+    if (!hasMax)
+        return QStringLiteral("不小于 ") + withUnit(unit, min);
+    return hasMin ? min + QStringLiteral(" – ") + withUnit(unit, max) : QStringLiteral("不大于 ") + withUnit(unit, max);
 }
 
 std::optional<GridNeighbours> offGrid(const NumberUnit& unit, double value)
@@ -186,12 +216,19 @@ QString offGridText(const NumberUnit& unit, double value)
              groupedDigits(numberText(unit, neighbours->above)));
 }
 
+QString boundedText(const NumberUnit& before, double value, const NumberUnit& after, double bounded)
+{
+    const QString was = withUnit(before, groupedDigits(numberText(before, value)));
+    const QString is = withUnit(after, groupedDigits(numberText(after, bounded)));
+    return QStringLiteral("%1 已调整为 %2").arg(was, is) + inBrackets(rangeText(reachable(after)));
+}
+
 Judgement judgeNumber(const NumberUnit& unit, const QString& label, const QString& typed)
 {
     Judgement judgement;
     const std::optional<double> number = typedNumber(typed);
     const auto wrong = [&](const QString& why) {
-        judgement.message = QStringLiteral("%1 %2（%3）").arg(label, why, rangeText(unit));
+        judgement.message = label + QLatin1Char(' ') + why + inBrackets(rangeText(reachable(unit)));
         return judgement;
     };
     if (!number)

@@ -57,7 +57,8 @@ WQ_EXPORT QString numberText(const NumberUnit& unit, double value);
 /// @p text with its digits before the point grouped by thousands, when it is a plain number; otherwise as it is.
 WQ_EXPORT QString groupedDigits(const QString& text);
 
-/// The limits of a unit as a person reads them: "10,000 – 1,000,000 股".
+/// The limits of a unit as a person reads them: "10,000 – 1,000,000 股", "不小于 100 股", "不大于 100 股"; empty for a
+/// unit without limits. A limit beyond the whole numbers that a double tells apart counts as none.
 WQ_EXPORT QString rangeText(const NumberUnit& unit);
 
 /// What a person typed as a number: an optional sign, digits and at most one point, thousands grouped or not, blanks
@@ -83,6 +84,9 @@ WQ_EXPORT std::optional<GridNeighbours> offGrid(const NumberUnit& unit, double v
 
 /// "不是 100 的整数倍：1,200 或 1,300"; empty for a value on the grid.
 WQ_EXPORT QString offGridText(const NumberUnit& unit, double value);
+
+/// What a switch from @p before to @p after made of @p value: "500.00 % 已调整为 100.000 元（0.000 – 100.000 元）".
+WQ_EXPORT QString boundedText(const NumberUnit& before, double value, const NumberUnit& after, double bounded);
 
 /// What becomes of a text that a person typed.
 struct Judgement

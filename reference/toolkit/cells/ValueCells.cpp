@@ -7,6 +7,20 @@
 
 namespace WQ {
 
+namespace {
+
+QString offGridTexts(const NumberUnit& unit, double low, double high)
+{
+    QStringList texts;
+    if (const QString text = WQ::offGridText(unit, low); !text.isEmpty())
+        texts << QStringLiteral("下限 ") + text;
+    if (const QString text = WQ::offGridText(unit, high); !text.isEmpty())
+        texts << QStringLiteral("上限 ") + text;
+    return texts.join(QStringLiteral("；"));
+}
+
+} // namespace
+
 RangeCell::RangeCell(int id, QString label, NumberUnit unit, double low, double high, QString separator)
     : CellItem(CellKind::Range, id, std::move(label))
     , m_unit(std::move(unit))
@@ -32,7 +46,11 @@ Judgement RangeCell::judge(const QString& typedLow, const QString& typedHigh) co
     Judgement higher = judgeNumber(m_unit, label(), typedHigh);
     if (higher.ok && higher.value < lower.value) {
         higher.ok = false;
-        higher.message = QStringLiteral("%1 上限不能小于下限（%2）").arg(label(), rangeText(m_unit));
+        higher.message = QStringLiteral("%1 上限不能小于下限").arg(label());
+        if (const QString range = rangeText(); !range.isEmpty())
+            higher.message += QStringLiteral("（%1）").arg(range);
+    } else if (higher.ok) {
+        higher.message = offGridTexts(m_unit, lower.value, higher.value);
     }
     return higher;
 }
@@ -114,6 +132,16 @@ bool RangeCell::setTick(const QString& unit, double step)
         return false;
     setStep(m_unit, step);
     return true;
+}
+
+QString RangeCell::rangeText() const
+{
+    return WQ::rangeText(m_unit);
+}
+
+QString RangeCell::offGridText() const
+{
+    return offGridTexts(m_unit, m_low, m_high);
 }
 
 LineCell::LineCell(int id, QString label, QString text, QString pattern, QString placeholder)

@@ -39,7 +39,8 @@ public:
     /// Bounds both; when the higher would fall below the lower, it follows it.
     bool setRange(double low, double high);
 
-    /// Judges both texts; the message is that of the first wrong one, or that the lower is the higher.
+    /// Judges both texts; the message is that of the first wrong one, or that the lower is the higher, else what
+    /// offGridText() says of such numbers.
     Judgement judge(const QString& typedLow, const QString& typedHigh) const;
 
     QString text() const override;
@@ -58,6 +59,10 @@ public:
     bool setUnit(const QString& unit) override;
     bool setUnit(const QString& unit, double min, double max, double step, bool makeCurrent) override;
     bool setTick(const QString& unit, double step) override;
+    QString rangeText() const override;
+
+    /// Of both numbers, each named where one of them stands.
+    QString offGridText() const override;
 
 private:
     NumberUnit m_unit;

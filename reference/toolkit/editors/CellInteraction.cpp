@@ -1,6 +1,7 @@
 #include "reference/toolkit/editors/CellInteraction.h"
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
+#include "reference/toolkit/editors/CellFlash.h"
 #include "reference/toolkit/editors/ChoicePopup.h"
 #include "reference/toolkit/editors/FilterPopup.h"
 #include "reference/toolkit/editors/Notice.h"
@@ -84,26 +85,36 @@ void CellInteraction::draftChanged()
     const bool isWrong = m_editor->isModified() && !judgement.ok;
     m_wrong = isWrong ? judgement.message : QString();
     m_table.update(*m_cell);
-    if (isWrong)
-        showWrong();
+    if (m_editor->isModified() && !judgement.message.isEmpty())
+        showJudgement(judgement);
     else
         hideWrong();
 }
 
-void CellInteraction::showWrong()
+void CellInteraction::showJudgement(const Judgement& judgement)
 {
     if (!widget().isVisible())
         return;
+    if (m_flash)
+        m_flash->withdraw();
     if (!m_notice)
         m_notice = new Notice(&widget());
-    m_notice->tell(m_wrong, toGlobal(m_table.rowRect(*m_cell)), m_table.scale());
+    const auto row = [this] { return m_cell ? m_table.rowRect(*m_cell) : QRect(); };
+    m_notice->tell(judgement.message, judgement.ok ? Notice::Kind::Remark : Notice::Kind::Wrong, row, m_table.scale());
+}
+
+void CellInteraction::flash(const CellItem& cell, const QString& text)
+{
+    if (!m_flash)
+        m_flash = std::make_unique<CellFlash>(m_table);
+    m_flash->start(cell, text);
 }
 
 void CellInteraction::hideWrong()
 {
     m_wrong.clear();
     if (m_notice)
-        m_notice->hide();
+        m_notice->withdraw();
 }
 
 void CellInteraction::submitted()
@@ -153,6 +164,8 @@ void CellInteraction::focusGone(Qt::FocusReason reason)
 void CellInteraction::hidden()
 {
     closePopups();
+    if (m_flash)
+        m_flash->stop();
     finish(Ending::Commit);
 }
 
@@ -186,12 +199,16 @@ void CellInteraction::relayout()
 {
     if (m_choiceCell && !m_table.model().isShown(*m_choiceCell))
         m_choices->hide();
+    if (m_flash)
+        m_flash->follow();
     if (!m_cell)
         return;
     if (m_table.model().isShown(*m_cell))
         m_editor->place(m_table.layoutOf(*m_cell).value, m_table.metrics());
     else
         finish(Ending::Commit);
+    if (m_notice)
+        m_notice->follow();
 }
 
 void CellInteraction::cellChanged(const CellItem& cell)
@@ -230,6 +247,8 @@ void CellInteraction::themeChanged()
         if (shown)
             shown->update();
     }
+    if (m_flash)
+        m_flash->themeChanged();
 }
 
 void CellInteraction::addRowState(const CellItem& cell, RowState& state) const
@@ -238,6 +257,7 @@ void CellInteraction::addRowState(const CellItem& cell, RowState& state) const
     state.unitMouse = state.mouse && m_unitMouse;
     state.editing = &cell == m_cell;
     state.wrong = state.editing && !m_wrong.isEmpty();
+    state.flash = m_flash && m_flash->isLit(cell);
     state.focus = (state.focus && !m_footerFocus) || state.editing || &cell == m_choiceCell;
 }
 

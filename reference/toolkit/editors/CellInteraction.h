@@ -7,6 +7,8 @@
 #include <QAbstractItemView>
 #include <QPointer>
 
+#include <memory>
+
 class QContextMenuEvent;
 class QFocusEvent;
 class QMouseEvent;
@@ -15,6 +17,7 @@ namespace WQ {
 
 class CMultiParamsTable;
 class CMultiParamsTablePrivate;
+class CellFlash;
 class ChoicePopup;
 class FilterPopup;
 class Notice;
@@ -60,6 +63,9 @@ public:
     /// Why what stands in the editor of @p cell is wrong; empty when it is not.
     QString wrongText(const CellItem& cell) const;
 
+    /// Highlights @p cell for a moment and says @p text beside it.
+    void flash(const CellItem& cell, const QString& text);
+
     /// Ends an edit: a right text is committed, a wrong one dropped.
     void commitEditor();
 
@@ -83,7 +89,7 @@ private:
     void bequeathEditor();
     void storeDraft();
     void finish(Ending ending);
-    void showWrong();
+    void showJudgement(const Judgement& judgement);
     void hideWrong();
     void makeVisible(const CellItem& cell) const;
 
@@ -117,6 +123,7 @@ private:
     QPointer<ChoicePopup> m_choices;
     QPointer<FilterPopup> m_filter;
     QPointer<Notice> m_notice;
+    std::unique_ptr<CellFlash> m_flash;
     CellItem* m_cell = nullptr;             // being edited
     const CellItem* m_choiceCell = nullptr; // its list is open
     const CellItem* m_mouseCell = nullptr;

@@ -1,6 +1,7 @@
 #include "reference/toolkit/editors/CellInteraction.h"
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
+#include "reference/toolkit/editors/CellFlash.h"
 #include "reference/toolkit/editors/ChoicePopup.h"
 #include "reference/toolkit/editors/FilterPopup.h"
 #include "reference/toolkit/editors/Notice.h"
@@ -34,6 +35,7 @@ CellInteraction::~CellInteraction()
     m_cell = nullptr;
     auto& all = interactions();
     all.erase(std::find(all.begin(), all.end(), this));
+    m_flash.reset();
     delete m_notice;
     delete m_filter;
     delete m_choices;

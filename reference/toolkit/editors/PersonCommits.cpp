@@ -2,6 +2,7 @@
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 #include "reference/toolkit/PersonEvents.h"
+#include "reference/toolkit/editors/CellFlash.h"
 
 namespace WQ::commits {
 
@@ -45,17 +46,26 @@ void post(CMultiParamsTable& table, CellEvent event, int cell, int b, const QStr
     postPersonEvent(&table, table, event, cell, b, text);
 }
 
-} // namespace
-
-void draft(CMultiParamsTable& table, CellItem& cell, const Draft& draft)
+void postValue(CMultiParamsTable& table, CellItem& cell)
 {
-    if (!storeDraft(cell, draft))
-        return;
     modelOf(table).touch(&cell);
     for (const DraftEvent& row : kDraftEvents) {
         if (row.kind == cell.kind())
             post(table, row.event, cell.id(), 0, cell.text());
     }
+}
+
+bool hasUnits(const CellItem& cell)
+{
+    return cell.kind() == CellKind::Number || cell.kind() == CellKind::CheckNumber;
+}
+
+} // namespace
+
+void draft(CMultiParamsTable& table, CellItem& cell, const Draft& draft)
+{
+    if (storeDraft(cell, draft))
+        postValue(table, cell);
 }
 
 void entry(CMultiParamsTable& table, ComboCell& cell, int index)
@@ -68,9 +78,11 @@ void entry(CMultiParamsTable& table, ComboCell& cell, int index)
 
 void unit(CMultiParamsTable& table, NumberCell& cell, int index)
 {
+    const UnitSwitch change(*CMultiParamsTablePrivate::of(&table), cell);
     if (!cell.setCurrentUnit(index))
         return;
     modelOf(table).touch(&cell);
+    change.tell();
     post(table, UnitOrCheckChanged, cell.id(), 0, cell.unit());
 }
 
@@ -80,6 +92,22 @@ void check(CMultiParamsTable& table, CellItem& cell, bool checked)
         return;
     modelOf(table).touch(&cell);
     post(table, UnitOrCheckChanged, cell.id(), checked ? 1 : 0, cell.checkText());
+}
+
+// The number that the unit leaves on the way is nobody's, so nothing is said of it.
+void initial(CMultiParamsTable& table, CellItem& cell, const InitialValue& initial)
+{
+    if (hasUnits(cell) && static_cast<NumberCell&>(cell).setCurrentUnit(0)) {
+        modelOf(table).touch(&cell);
+        post(table, UnitOrCheckChanged, cell.id(), 0, cell.unit());
+    }
+    check(table, cell, initial.checked);
+    if (cell.kind() == CellKind::Combo) {
+        auto& combo = static_cast<ComboCell&>(cell);
+        entry(table, combo, combo.indexOfData(initial.value));
+    } else if (storeInitial(cell, initial)) {
+        postValue(table, cell);
+    }
 }
 
 void doubleClick(CMultiParamsTable& table, const CellItem& cell)

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void fullWidthDigitsAndStopsAreRead();
     void wrongTextIsMarkedAndEnterKeepsTheEditorOpen_data();
     void wrongTextIsMarkedAndEnterKeepsTheEditorOpen();
+    void aNumberOffTheGridIsSaidWhileItIsTypedAndStored();
+    void bothNumbersOfARangeMayBeOffTheGrid();
     void aWrongTextIsDroppedWhenAnotherCellIsClicked();
     void aWrongTextIsDroppedWhenTheWindowCloses();
     void aPendingNumberIsCommittedWhenAnotherCellIsClicked();
@@ -197,6 +199,42 @@ void tst_NumberEditor::wrongTextIsMarkedAndEnterKeepsTheEditorOpen()
     QVERIFY(!notice->isVisible());
     QCOMPARE(m_panel->table->itemInt(Cell::Least), 10000);
     QCOMPARE(m_panel->host.take(), QStringList());
+}
+
+void tst_NumberEditor::aNumberOffTheGridIsSaidWhileItIsTypedAndStored()
+{
+    const QString text = QStringLiteral("不是 100 的整数倍：1,200 或 1,300");
+    m_panel->clickValue(Cell::Least);
+    m_panel->type(QStringLiteral("1250"));
+    const auto* notice = m_panel->table->findChild<WQ::Notice*>();
+    QVERIFY(notice && notice->isVisible());
+    QCOMPARE(notice->text(), text);
+    QCOMPARE(notice->kind(), WQ::Notice::Kind::Remark);
+    QVERIFY(!m_panel->inner().rowState(m_panel->cell(Cell::Least)).wrong);
+    m_panel->press(Qt::Key_Return);
+    QVERIFY(!notice->isVisible());
+    QCOMPARE(m_panel->host.take(), QStringList{QStringLiteral("87 cell=3 b=0 text=1250")});
+    QCOMPARE(m_panel->inner().toolTipOf(m_panel->cell(Cell::Least)), QStringLiteral("100 – 1,000,000 股\n") + text);
+}
+
+void tst_NumberEditor::bothNumbersOfARangeMayBeOffTheGrid()
+{
+    m_panel->table->setItemTick(Cell::Span, QStringLiteral("股"), 100);
+    m_panel->clickValue(Cell::Span);
+    m_panel->type(QStringLiteral("150"));
+    m_panel->press(Qt::Key_Tab);
+    m_panel->type(QStringLiteral("275"));
+    const auto* notice = m_panel->table->findChild<WQ::Notice*>();
+    QVERIFY(notice && notice->isVisible());
+    const QString both = QStringLiteral("下限 不是 100 的整数倍：100 或 200；上限 不是 100 的整数倍：200 或 300");
+    QCOMPARE(notice->text(), both);
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->table->itemText(Cell::Span), QStringLiteral("150 - 275"));
+    QCOMPARE(m_panel->cell(Cell::Span).offGridText(), both);
+    m_panel->table->setItemText(Cell::Span, QStringLiteral("100 - 275"));
+    QCOMPARE(m_panel->cell(Cell::Span).offGridText(), QStringLiteral("上限 不是 100 的整数倍：200 或 300"));
+    m_panel->table->setItemText(Cell::Span, QStringLiteral("100 - 300"));
+    QCOMPARE(m_panel->cell(Cell::Span).offGridText(), QString());
 }
 
 void tst_NumberEditor::aWrongTextIsDroppedWhenAnotherCellIsClicked()

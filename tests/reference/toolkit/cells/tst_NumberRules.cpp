@@ -54,6 +54,10 @@ private Q_SLOTS:
     void megabyteTextIsNoNumber();
     void offGrid_data();
     void offGrid();
+    void rangeOfAUnit_data();
+    void rangeOfAUnit();
+    void noTextNamesALimitThatIsNone();
+    void aSwitchThatBoundsSaysBothNumbers();
     void judgement_data();
     void judgement();
 };
@@ -336,6 +340,49 @@ void tst_NumberRules::offGrid()
     QFETCH(double, step);
     QFETCH(double, value);
     QTEST(WQ::offGridText(unit(6, -100, 10000, step), value), "text");
+}
+
+void tst_NumberRules::rangeOfAUnit_data()
+{
+    constexpr double kNone = std::numeric_limits<double>::max();
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("max");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("two limits") << 100.0 << 1000000.0 << QStringLiteral("100 – 1,000,000 股");
+    QTest::newRow("one value") << 100.0 << 100.0 << QStringLiteral("100 – 100 股");
+    QTest::newRow("no maximum") << 100.0 << kNone << QStringLiteral("不小于 100 股");
+    QTest::newRow("no minimum") << -kNone << -100.0 << QStringLiteral("不大于 -100 股");
+    QTest::newRow("no limits") << -kNone << kNone << QString();
+    QTest::newRow("infinite limits") << -kInfinity << kInfinity << QString();
+    QTest::newRow("limits nobody reaches") << -1e300 << 1e16 << QString();
+}
+
+void tst_NumberRules::rangeOfAUnit()
+{
+    QFETCH(double, min);
+    QFETCH(double, max);
+    QTEST(WQ::rangeText(unit(2, min, max, 100, QStringLiteral("股"))), "text");
+}
+
+void tst_NumberRules::noTextNamesALimitThatIsNone()
+{
+    WQ::CParamCellUnitInfo info;
+    info.type = 6;
+    info.text = QStringLiteral("元");
+    const QString label = QStringLiteral("单笔超价");
+    QCOMPARE(WQ::judgeNumber(WQ::numberUnit(info), label, QStringLiteral("abc")).message,
+             QStringLiteral("单笔超价 不是数字"));
+    info.type = 2;
+    QCOMPARE(WQ::judgeNumber(WQ::numberUnit(info), label, QStringLiteral("3000000000")).message,
+             QStringLiteral("单笔超价 超出范围（-2,147,483,648 – 2,147,483,647 元）"));
+}
+
+void tst_NumberRules::aSwitchThatBoundsSaysBothNumbers()
+{
+    const WQ::NumberUnit percent = unit(6, 0, 1000, 0.01, QStringLiteral("%"));
+    const WQ::NumberUnit money = unit(6, 0, 100, 0.001, QStringLiteral("元"));
+    QCOMPARE(WQ::boundedText(percent, 500, money, 100),
+             QStringLiteral("500.00 % 已调整为 100.000 元（0.000 – 100.000 元）"));
 }
 
 void tst_NumberRules::judgement_data()
