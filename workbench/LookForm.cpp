@@ -29,6 +29,7 @@ struct ThemeRow
 
 constexpr std::array kThemeNames = {
     ThemeRow{"dark", QT_TRANSLATE_NOOP("workbench", "Dark")},
+    ThemeRow{"high-contrast", QT_TRANSLATE_NOOP("workbench", "High contrast")},
     ThemeRow{"light", QT_TRANSLATE_NOOP("workbench", "Light")},
 };
 

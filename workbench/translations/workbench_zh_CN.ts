@@ -40,6 +40,90 @@
         <translation>显示的部分(&amp;P)</translation>
     </message>
     <message>
+        <source>Modules and host</source>
+        <translation>模块与宿主</translation>
+    </message>
+    <message>
+        <source>&amp;Quote moves</source>
+        <translation>行情变动(&amp;Q)</translation>
+    </message>
+    <message>
+        <source> a second</source>
+        <translation> 次/秒</translation>
+    </message>
+    <message>
+        <source>Updates of the quote</source>
+        <translation>行情更新频率</translation>
+    </message>
+    <message>
+        <source>usual client</source>
+        <translation>普通客户端</translation>
+    </message>
+    <message>
+        <source>announces volume changes</source>
+        <translation>通知数量变化</translation>
+    </message>
+    <message>
+        <source>announces volume changes, too</source>
+        <translation>同样通知数量变化</translation>
+    </message>
+    <message>
+        <source>Client mode (&amp;j)</source>
+        <translation>客户端模式(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Free&amp;ze the clock at</source>
+        <translation>时钟停在(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Time of the clock</source>
+        <translation>时钟时间</translation>
+    </message>
+    <message>
+        <source>Step of the clock</source>
+        <translation>时钟步长</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>Advance</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>The state of the last run, %1, cannot be read.</source>
+        <translation>无法读取上次运行的状态 %1。</translation>
+    </message>
+    <message>
+        <source>The state of the last run was damaged and is set aside as %1.</source>
+        <translation>上次运行的状态已损坏，已另存为 %1。</translation>
+    </message>
+    <message>
+        <source>The state was written by a later version; a copy of it is %1.</source>
+        <translation>状态由更新的版本写入，其副本为 %1。</translation>
+    </message>
+    <message>
+        <source>The state of the last run, %1, is not used and cannot be set aside.</source>
+        <translation>上次运行的状态 %1 未被使用，也无法移走。</translation>
+    </message>
+    <message>
+        <source>The state cannot be kept in %1: %2</source>
+        <translation>无法将状态保存到 %1：%2</translation>
+    </message>
+    <message>
+        <source>Say when the event loop is held for more than &lt;ms&gt;.</source>
+        <translation>事件循环被占用超过 &lt;ms&gt; 毫秒时给出提示。</translation>
+    </message>
+    <message>
+        <source>Say after how many milliseconds the window is usable, and end.</source>
+        <translation>报告窗口在多少毫秒后可用，然后结束。</translation>
+    </message>
+    <message>
+        <source>--watchdog takes milliseconds, not &quot;%1&quot;.</source>
+        <translation>--watchdog 需要毫秒数，而不是“%1”。</translation>
+    </message>
+    <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
         <translation>多余的参数“%1”。</translation>
     </message>
@@ -238,6 +322,10 @@
     <message>
         <source>Dark</source>
         <translation>深色</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>高对比度</translation>
     </message>
     <message>
         <source>Light</source>
@@ -923,6 +1011,388 @@ A host for every table and dialog of the library.</source>
         <source>%n step(s) answered otherwise.</source>
         <translation>
             <numerusform>%n 步应答不同。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 has it</source>
+        <translation>%1 包含此单元格</translation>
+    </message>
+    <message>
+        <source>%1 is off</source>
+        <translation>%1 未开启</translation>
+    </message>
+    <message>
+        <source>%1 is on</source>
+        <translation>%1 已开启</translation>
+    </message>
+    <message>
+        <source>%1 lacks it</source>
+        <translation>%1 不包含此单元格</translation>
+    </message>
+    <message>
+        <source>%1 on</source>
+        <translation>开启 %1 个</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>仅显示差异(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the panel&apos;s row</source>
+        <translation>跟随面板当前行(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Any cell, shown or not</source>
+        <translation>任一单元格，无论是否显示</translation>
+    </message>
+    <message>
+        <source>As the panel</source>
+        <translation>取自面板</translation>
+    </message>
+    <message>
+        <source>Catalogue</source>
+        <translation>单元格目录</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>单元格</translation>
+    </message>
+    <message>
+        <source>Cell area</source>
+        <translation>单元格区域</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>作用</translation>
+    </message>
+    <message>
+        <source>Expanded</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>Expansion</source>
+        <translation>展开状态</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Fact</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>Feature module</source>
+        <translation>功能模块</translation>
+    </message>
+    <message>
+        <source>Feature modules</source>
+        <translation>功能模块</translation>
+    </message>
+    <message>
+        <source>Host&apos;s flags</source>
+        <translation>宿主标志</translation>
+    </message>
+    <message>
+        <source>Identity</source>
+        <translation>表标识</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Mask of the order type</source>
+        <translation>委托类型掩码</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Rule of its own</source>
+        <translation>自有规则</translation>
+    </message>
+    <message>
+        <source>Set since</source>
+        <translation>之后的设置</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>表</translation>
+    </message>
+    <message>
+        <source>Take what the order panel is made of</source>
+        <translation>采用下单面板的构成</translation>
+    </message>
+    <message>
+        <source>User&apos;s filter</source>
+        <translation>用户筛选</translation>
+    </message>
+    <message>
+        <source>Why a cell is shown or not</source>
+        <translation>单元格显示或隐藏的原因</translation>
+    </message>
+    <message>
+        <source>Write the rows that are shown, as CSV or between tabs</source>
+        <translation>把显示的行写成 CSV 或制表符分隔的文件</translation>
+    </message>
+    <message>
+        <source>always shown, whatever flags and mask say</source>
+        <translation>始终显示，不看标志和掩码</translation>
+    </message>
+    <message>
+        <source>check</source>
+        <translation>勾选</translation>
+    </message>
+    <message>
+        <source>collapsed</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>collapsed: the user&apos;s cells %1 lack it</source>
+        <translation>折叠：用户的单元格 %1 不包含它</translation>
+    </message>
+    <message>
+        <source>decides</source>
+        <translation>起决定作用</translation>
+    </message>
+    <message>
+        <source>differs</source>
+        <translation>有差异</translation>
+    </message>
+    <message>
+        <source>editable</source>
+        <translation>可编辑</translation>
+    </message>
+    <message>
+        <source>entries</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>expanded</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>expanded: the algorithm shows all of its cells</source>
+        <translation>展开：算法显示它的全部单元格</translation>
+    </message>
+    <message>
+        <source>for broker types with a volume type</source>
+        <translation>限有基准量的账号类型</translation>
+    </message>
+    <message>
+        <source>for the remaining target volume alone</source>
+        <translation>仅限目标剩余量</translation>
+    </message>
+    <message>
+        <source>height of the cells</source>
+        <translation>单元格总高</translation>
+    </message>
+    <message>
+        <source>help hidden</source>
+        <translation>帮助隐藏</translation>
+    </message>
+    <message>
+        <source>hidden</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>hidden in order types 0 and 1</source>
+        <translation>委托类型 0 和 1 时隐藏</translation>
+    </message>
+    <message>
+        <source>hidden: a parameter set is in use</source>
+        <translation>隐藏：正在使用参数组</translation>
+    </message>
+    <message>
+        <source>hides</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>in every table</source>
+        <translation>每个表都有</translation>
+    </message>
+    <message>
+        <source>in tables with a limit price; created hidden</source>
+        <translation>限有限价的表；创建时隐藏</translation>
+    </message>
+    <message>
+        <source>in the table</source>
+        <translation>在表中</translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>leaves this cell alone</source>
+        <translation>不影响此单元格</translation>
+    </message>
+    <message>
+        <source>limited cell</source>
+        <translation>受限单元格</translation>
+    </message>
+    <message>
+        <source>limiting cell</source>
+        <translation>限制单元格</translation>
+    </message>
+    <message>
+        <source>limits</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>mode buttons</source>
+        <translation>模式按钮</translation>
+    </message>
+    <message>
+        <source>mode strip hidden</source>
+        <translation>模式条隐藏</translation>
+    </message>
+    <message>
+        <source>no choice: every cell</source>
+        <translation>未选择：全部单元格</translation>
+    </message>
+    <message>
+        <source>none needed</source>
+        <translation>不需要</translation>
+    </message>
+    <message>
+        <source>not for Hong Kong accounts</source>
+        <translation>港股账号除外</translation>
+    </message>
+    <message>
+        <source>not in close settings and tables without remark</source>
+        <translation>平仓设置和无备注的表除外</translation>
+    </message>
+    <message>
+        <source>not in the catalogue; a host adds it</source>
+        <translation>不在目录中，由宿主添加</translation>
+    </message>
+    <message>
+        <source>not in this table</source>
+        <translation>不在此表中</translation>
+    </message>
+    <message>
+        <source>order type %1: %2</source>
+        <translation>委托类型 %1：%2</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>shown in order types 0 and 1</source>
+        <translation>委托类型 0 和 1 时显示</translation>
+    </message>
+    <message>
+        <source>shown while expanded, but not for plain orders</source>
+        <translation>展开时显示，普通委托除外</translation>
+    </message>
+    <message>
+        <source>shows</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>stop loss</source>
+        <translation>止损</translation>
+    </message>
+    <message>
+        <source>stop profit</source>
+        <translation>止盈</translation>
+    </message>
+    <message>
+        <source>the rules have not run yet</source>
+        <translation>规则尚未运行</translation>
+    </message>
+    <message>
+        <source>the user&apos;s choice has it</source>
+        <translation>用户的选择包含它</translation>
+    </message>
+    <message>
+        <source>the user&apos;s choice lacks it</source>
+        <translation>用户的选择不包含它</translation>
+    </message>
+    <message>
+        <source>trigger price</source>
+        <translation>触发价</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>各单位</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>where the broker type has price types</source>
+        <translation>限有报价方式的账号类型</translation>
+    </message>
+    <message>
+        <source>where volumes may be random: module, stock, desk 1, some identities</source>
+        <translation>限可随机数量：模块、股票、交易端 1、部分表标识</translation>
+    </message>
+    <message>
+        <source>with its module alone</source>
+        <translation>仅随其模块</translation>
+    </message>
+    <message>
+        <source>with the module of remarks</source>
+        <translation>随备注模块</translation>
+    </message>
+    <message>
+        <source>keeps what an earlier order type or price type set</source>
+        <translation>保留先前委托类型或报价方式的设置</translation>
+    </message>
+    <message>
+        <source>shown when the user&apos;s filter was applied</source>
+        <translation>应用用户筛选时显示</translation>
+    </message>
+    <message>
+        <source>set when the volume type was chosen</source>
+        <translation>选择基准量时设置</translation>
+    </message>
+    <message>
+        <source>shown when the table was last expanded</source>
+        <translation>上次展开时显示</translation>
+    </message>
+    <message>
+        <source>hidden by the host, or under earlier values</source>
+        <translation>被宿主隐藏，或按先前的值隐藏</translation>
+    </message>
+    <message>
+        <source>shown by the host, or under earlier values</source>
+        <translation>被宿主显示，或按先前的值显示</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Why?</source>
+        <translation>为什么？</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n 处差异</numerusform>
         </translation>
     </message>
 </context>
