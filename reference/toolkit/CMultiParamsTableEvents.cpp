@@ -6,6 +6,7 @@
 #include "reference/toolkit/editors/CellInteraction.h"
 
 #include <QAccessible>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
 
@@ -84,6 +85,11 @@ bool CMultiParamsTable::event(QEvent* event)
         viewport()->setGeometry(rect());
         return true;
     }
+    if (event->type() == QEvent::ShortcutOverride && d->interactionIfAny()
+        && d->interactionIfAny()->usesShortcut(static_cast<QKeyEvent&>(*event))) {
+        event->accept();
+        return true;
+    }
     const bool handled = CEventWidgetT<QTableView>::event(event);
     // An application's style sheet may put a frame and padding around any scroll area. Qt lays the area out in here.
     if (viewport()->geometry() != rect())
@@ -97,6 +103,9 @@ bool CMultiParamsTable::viewportEvent(QEvent* event)
         showToolTip(*d, *static_cast<QHelpEvent*>(event));
         return true;
     }
+    // Qt hands no event of a mouse to a disabled widget, and what is read there may be copied.
+    if (event->type() == QEvent::ContextMenu && !isEnabled())
+        return d->interaction().contextMenu(static_cast<QContextMenuEvent*>(event));
     if (event->type() == QEvent::Leave && d->interactionIfAny())
         d->interactionIfAny()->leave();
     return CEventWidgetT<QTableView>::viewportEvent(event);
@@ -203,11 +212,8 @@ void CMultiParamsTable::currentChanged(const QModelIndex& current, const QModelI
 {
     // Not QTableView's: it would announce the focus by the numbers of Qt's own accessible table.
     QAbstractItemView::currentChanged(current, previous);
-    if (QAccessible::isActive() && current.isValid() && hasFocus()) {
-        QAccessibleEvent focus(this, QAccessible::Focus);
-        focus.setChild(accessibleChild(current.row(), CellModel::ValueColumn));
-        QAccessible::updateAccessibility(&focus);
-    }
+    if (current.isValid())
+        announceAccessibleFocus(*this);
     viewport()->update(d->rowRect(previous.row()));
     viewport()->update(d->rowRect(current.row()));
     if (CellInteraction* interaction = d->interactionIfAny())
@@ -269,6 +275,7 @@ void CMultiParamsTable::dataChanged(const QModelIndex& topLeft, const QModelInde
         change.setLastColumn(bottomRight.column());
         QAccessible::updateAccessibility(&change);
     }
+    announceAccessibleValues(*this, topLeft.row(), bottomRight.row());
 }
 
 void CMultiParamsTable::scrollContentsBy(int dx, int dy)

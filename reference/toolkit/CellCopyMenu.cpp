@@ -1,6 +1,7 @@
 #include "reference/toolkit/CellCopyMenu.h"
 
 #include "reference/toolkit/PopupList.h"
+#include "reference/toolkit/editors/CopiedTexts.h"
 
 #include <WQ/CParameterCell.h>
 
@@ -24,7 +25,7 @@ QString allCells(const QList<CParameterCell*>& cells)
 {
     QStringList lines;
     for (const CParameterCell* cell : cells)
-        lines.append(cell->label().trimmed() + QLatin1Char('\t') + cell->text());
+        lines.append(columnText(cell->label()) + QLatin1Char('\t') + columnText(cell->text()));
     return lines.join(QLatin1Char('\n'));
 }
 

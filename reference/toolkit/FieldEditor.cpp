@@ -2,14 +2,13 @@
 
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
+#include "reference/toolkit/editors/StepKeys.h"
 
 #include <QKeyEvent>
 
 namespace WQ {
 
 namespace {
-
-constexpr int kManySteps = 10;
 
 // What a QLineEdit leaves free at both sides of its text whatever the style sheet says.
 constexpr int kOwnMargin = 2;
@@ -43,10 +42,19 @@ void FieldEditor::setWrong(bool wrong)
     setStyleSheet(sheet(m_font, wrong ? keys::kWrongFill : keys::kInput));
 }
 
+// A host's shortcut on a key of the edit would take it away.
+bool FieldEditor::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isEditorKey(static_cast<QKeyEvent&>(*event))) {
+        event->accept();
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
 // Enter and Esc end here, so that they never press a button of the dialog or close it.
 void FieldEditor::keyPressEvent(QKeyEvent* event)
 {
-    const int steps = event->modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1;
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -57,14 +65,15 @@ void FieldEditor::keyPressEvent(QKeyEvent* event)
         event->accept();
         Q_EMIT cancelled();
         return;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        event->accept();
-        Q_EMIT stepped(event->key() == Qt::Key_Up ? steps : -steps);
-        return;
     default:
-        QLineEdit::keyPressEvent(event);
+        break;
     }
+    if (const int steps = stepsOf(*event)) {
+        event->accept();
+        Q_EMIT stepped(steps);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
 }
 
 void FieldEditor::focusOutEvent(QFocusEvent* event)

@@ -20,9 +20,10 @@ Q_SIGNALS:
     void accepted();         ///< Enter
     void cancelled();        ///< Esc
     void left();             ///< the focus went elsewhere in the window
-    void stepped(int steps); ///< Up and Down, ten steps with Shift
+    void stepped(int steps); ///< Up and Down, ten steps with Shift; PageUp and PageDown
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 

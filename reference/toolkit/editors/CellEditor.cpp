@@ -5,6 +5,7 @@
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/cells/RowLayout.h"
 #include "reference/toolkit/cells/ValueCells.h"
+#include "reference/toolkit/editors/CopiedTexts.h"
 
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -21,9 +22,6 @@ namespace {
 // QLineEdit keeps this much free at both ends of its text, and one pixel for the cursor.
 constexpr int kInnerMargin = 2;
 constexpr int kCursorRoom = 1;
-
-// More than a person types, less than what makes the line slow.
-constexpr int kLongestText = 32767;
 
 } // namespace
 
@@ -85,7 +83,7 @@ void CellEditor::load(const Draft& draft)
         line->setVisible(isUsed);
         if (!isUsed)
             continue;
-        line->setMaxLength(std::max(kLongestText, draft.texts.at(i).size()));
+        line->setMaxLength(std::max(kLongestTyped, draft.texts.at(i).size()));
         line->setText(draft.texts.at(i));
     }
 }
@@ -241,6 +239,14 @@ void CellEditor::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton && m_periodArea.contains(event->pos()))
         switchPeriod();
     takeFocusAt(mapToParent(event->pos()));
+}
+
+// Beside the fields a double click is the cell's as it is on them, and its second press counts as the first does.
+void CellEditor::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_client->editorDoubleClicked();
+    mousePressEvent(event);
 }
 
 } // namespace WQ

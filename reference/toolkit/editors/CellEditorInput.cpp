@@ -1,8 +1,11 @@
 #include "reference/toolkit/editors/CellEditor.h"
 
+#include "reference/toolkit/editors/StepKeys.h"
+
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QWheelEvent>
 
@@ -12,20 +15,9 @@ namespace WQ {
 
 namespace {
 
-constexpr int kManySteps = 10;
-
-bool isOwnKey(const QKeyEvent& event)
+bool isTab(const QKeyEvent& event)
 {
-    switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Escape:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        return true;
-    default:
-        return false;
-    }
+    return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
 }
 
 // Qt leaves the menu of a line open when the line is hidden.
@@ -44,7 +36,7 @@ bool CellEditor::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::ShortcutOverride:
         // A host's shortcut on one of these keys would take it from the edit.
-        if (!isOwnKey(static_cast<QKeyEvent&>(*event)))
+        if (!isEditorKey(static_cast<QKeyEvent&>(*event)) && !isTab(static_cast<QKeyEvent&>(*event)))
             return false;
         event->accept();
         return true;
@@ -56,7 +48,8 @@ bool CellEditor::eventFilter(QObject* watched, QEvent* event)
         m_client->focusGone(static_cast<QFocusEvent*>(event)->reason());
         return !alive;
     case QEvent::MouseButtonDblClick:
-        m_client->editorDoubleClicked();
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+            m_client->editorDoubleClicked();
         return !alive;
     case QEvent::Hide:
         closeMenus(*watched);
@@ -68,7 +61,6 @@ bool CellEditor::eventFilter(QObject* watched, QEvent* event)
 
 bool CellEditor::keyPress(QKeyEvent& event)
 {
-    const bool isUp = event.key() == Qt::Key_Up;
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -80,17 +72,17 @@ bool CellEditor::keyPress(QKeyEvent& event)
         m_client->reverted();
         return true;
     case Qt::Key_Space:
-        return m_client->checkToggled();
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        if (event.modifiers().testFlag(Qt::AltModifier))
-            m_client->alternativesAsked();
-        else
-            step((isUp ? 1 : -1) * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1));
-        return true;
+        // Held down, it would go on ticking and clearing.
+        return (event.isAutoRepeat() && m_cell && m_cell->kind() == CellKind::CheckNumber) || m_client->checkToggled();
     default:
-        return false;
+        break;
     }
+    const int steps = stepsOf(event);
+    if (steps != 0 && event.modifiers().testFlag(Qt::AltModifier))
+        m_client->alternativesAsked();
+    else if (steps != 0)
+        step(steps);
+    return steps != 0;
 }
 
 bool CellEditor::wheel(const QWheelEvent& event)

@@ -112,6 +112,8 @@ void CellInteraction::flash(const CellItem& cell, const QString& text)
 
 void CellInteraction::hideWrong()
 {
+    if (const CellItem* refused = std::exchange(m_refused, nullptr))
+        m_table.update(*refused);
     m_wrong.clear();
     if (m_notice)
         m_notice->withdraw();
@@ -164,6 +166,7 @@ void CellInteraction::focusGone(Qt::FocusReason reason)
 void CellInteraction::hidden()
 {
     closePopups();
+    forgetRefusal();
     if (m_flash)
         m_flash->stop();
     finish(Ending::Commit);
@@ -172,6 +175,7 @@ void CellInteraction::hidden()
 void CellInteraction::currentChanged(const QModelIndex& current, const QModelIndex&)
 {
     setFooterFocus(false);
+    forgetRefusal();
     if (m_cell && m_table.model().cellAtRow(current.row()) != m_cell)
         finish(Ending::Commit);
 }
@@ -219,6 +223,8 @@ void CellInteraction::cellChanged(const CellItem& cell)
         else
             m_choices->hide();
     }
+    if (&cell == m_refused)
+        forgetRefusal();
     if (&cell != m_cell)
         return;
     if (!canEdit(cell)) {
@@ -234,6 +240,7 @@ void CellInteraction::enabledChanged()
 {
     if (!widget().isEnabled()) {
         closePopups();
+        forgetRefusal();
         finish(Ending::Drop);
     }
 }
@@ -256,7 +263,7 @@ void CellInteraction::addRowState(const CellItem& cell, RowState& state) const
     state.mouse = &cell == m_mouseCell;
     state.unitMouse = state.mouse && m_unitMouse;
     state.editing = &cell == m_cell;
-    state.wrong = state.editing && !m_wrong.isEmpty();
+    state.wrong = (state.editing || &cell == m_refused) && !m_wrong.isEmpty();
     state.flash = m_flash && m_flash->isLit(cell);
     state.focus = (state.focus && !m_footerFocus) || state.editing || &cell == m_choiceCell;
 }
@@ -271,7 +278,7 @@ FooterState CellInteraction::footerState() const
 
 QString CellInteraction::wrongText(const CellItem& cell) const
 {
-    return &cell == m_cell ? m_wrong : QString();
+    return &cell == m_cell || &cell == m_refused ? m_wrong : QString();
 }
 
 void CellInteraction::makeVisible(const CellItem& cell) const

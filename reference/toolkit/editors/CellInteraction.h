@@ -18,9 +18,11 @@ namespace WQ {
 class CMultiParamsTable;
 class CMultiParamsTablePrivate;
 class CellFlash;
+class CellMenu;
 class ChoicePopup;
 class FilterPopup;
 class Notice;
+enum class CellCommand;
 
 /// What a person does with a cell table: moving, editing, choosing, filtering. Editor and popups are made when first
 /// needed and used again, the editor by all tables. The table forwards its events here; a function that answers true
@@ -42,6 +44,10 @@ public:
     bool wheel(QWheelEvent* event);
     bool contextMenu(QContextMenuEvent* event);
     bool focusNextPrevious(bool next);
+
+    /// Whether the rows use this key, so that it is no shortcut of the host's.
+    bool usesShortcut(const QKeyEvent& event) const;
+
     void leave();
     void focusIn(QFocusEvent* event);
     void focusOut(QFocusEvent* event);
@@ -107,6 +113,17 @@ private:
     void openFilter();
     void closePopups();
 
+    void openMenu(CellItem& cell, const QPoint& position);
+    QPoint menuAnchor(const CellItem& cell) const;
+    bool commandKey(const QKeyEvent& event, CellItem& cell);
+    bool isPossible(CellCommand command, const CellItem& cell) const;
+    void run(CellCommand command, CellItem& cell);
+    bool readyForCommit(const CellItem& cell);
+    void paste(CellItem& cell, const QString& text);
+    void restoreInitial(CellItem& cell);
+    void refuse(const CellItem& cell, const QString& why);
+    void forgetRefusal();
+
     bool forwardKey(QKeyEvent& event);
     bool rowKey(QKeyEvent& event, CellItem& cell);
     bool footerKey(const QKeyEvent& event);
@@ -122,10 +139,12 @@ private:
     QPointer<CellEditor> m_editor; // while it is idle another table may take it
     QPointer<ChoicePopup> m_choices;
     QPointer<FilterPopup> m_filter;
+    QPointer<CellMenu> m_menu;
     QPointer<Notice> m_notice;
     std::unique_ptr<CellFlash> m_flash;
     CellItem* m_cell = nullptr;             // being edited
     const CellItem* m_choiceCell = nullptr; // its list is open
+    const CellItem* m_refused = nullptr;    // what was pasted into it is wrong
     const CellItem* m_mouseCell = nullptr;
     QString m_wrong;
     bool m_unitMouse = false;

@@ -1,5 +1,6 @@
 #include "reference/toolkit/editors/CellInteraction.h"
 
+#include "reference/toolkit/AccessibleTable.h"
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 #include "reference/toolkit/editors/ChoicePopup.h"
 #include "reference/toolkit/editors/PersonCommits.h"
@@ -103,8 +104,10 @@ void CellInteraction::focusIn(QFocusEvent* event)
 
 void CellInteraction::focusOut(QFocusEvent* event)
 {
-    if (event->reason() != Qt::PopupFocusReason)
-        setFooterFocus(false);
+    if (event->reason() == Qt::PopupFocusReason)
+        return;
+    setFooterFocus(false);
+    forgetRefusal();
 }
 
 void CellInteraction::setFooterFocus(bool focus)
@@ -115,6 +118,7 @@ void CellInteraction::setFooterFocus(bool focus)
     m_table.updateFooter();
     if (const CellItem* cell = m_table.currentCell())
         m_table.update(*cell);
+    announceAccessibleFocus(widget());
 }
 
 bool CellInteraction::leavesRows(const QKeyEvent& event) const
@@ -168,6 +172,7 @@ bool CellInteraction::keyPress(QKeyEvent* event)
     }
     if (m_cell)
         return forwardKey(*event);
+    forgetRefusal();
     if (m_footerFocus)
         return footerKey(*event);
     if (leavesRows(*event)) {
@@ -182,14 +187,20 @@ bool CellInteraction::keyPress(QKeyEvent* event)
 
 bool CellInteraction::rowKey(QKeyEvent& event, CellItem& cell)
 {
+    if (commandKey(event, cell))
+        return true;
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_F2:
         event.accept();
-        activate(cell);
+        // Held down, Enter would open the edit that it has just ended.
+        if (!event.isAutoRepeat())
+            activate(cell);
         return true;
     case Qt::Key_Space:
+        if (event.isAutoRepeat())
+            return true;
         return toggleCheck(cell) || (cell.kind() == CellKind::Combo && activate(cell)) || typeInto(cell, event);
     case Qt::Key_Up:
     case Qt::Key_Down:

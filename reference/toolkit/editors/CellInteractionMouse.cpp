@@ -1,6 +1,7 @@
 #include "reference/toolkit/editors/CellInteraction.h"
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
+#include "reference/toolkit/editors/CellMenu.h"
 #include "reference/toolkit/editors/ChoicePopup.h"
 #include "reference/toolkit/editors/FilterPopup.h"
 #include "reference/toolkit/editors/PersonCommits.h"
@@ -30,10 +31,13 @@ bool CellInteraction::mousePress(QMouseEvent* event)
     if (!alive)
         return true;
     setFooterFocus(false);
+    forgetRefusal();
     if (cell) {
         m_table.setCurrentCell(*cell);
         if (event->button() == Qt::LeftButton)
             pressCell(*cell, event->pos());
+        else if (cell == m_cell)
+            m_editor->takeFocus();
     } else if (event->button() == Qt::LeftButton && m_table.footerRect().contains(event->pos())) {
         openFilter();
     }
@@ -114,11 +118,6 @@ void CellInteraction::setMouseAt(const CellItem* cell, bool unit, bool footer)
 
 // The editor that has the focus takes the wheel itself; here it scrolls, be it what is around the table.
 bool CellInteraction::wheel(QWheelEvent*)
-{
-    return false;
-}
-
-bool CellInteraction::contextMenu(QContextMenuEvent*)
 {
     return false;
 }
@@ -225,6 +224,8 @@ void CellInteraction::closePopups()
         m_choices->hide();
     if (m_filter)
         m_filter->hide();
+    if (m_menu)
+        m_menu->close();
 }
 
 } // namespace WQ

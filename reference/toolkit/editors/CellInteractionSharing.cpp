@@ -2,6 +2,7 @@
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 #include "reference/toolkit/editors/CellFlash.h"
+#include "reference/toolkit/editors/CellMenu.h"
 #include "reference/toolkit/editors/ChoicePopup.h"
 #include "reference/toolkit/editors/FilterPopup.h"
 #include "reference/toolkit/editors/Notice.h"
@@ -39,6 +40,7 @@ CellInteraction::~CellInteraction()
     delete m_notice;
     delete m_filter;
     delete m_choices;
+    delete m_menu;
     bequeathEditor();
 }
 

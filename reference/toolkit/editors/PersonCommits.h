@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference/toolkit/editors/EditRules.h"
+#include "reference/toolkit/editors/InitialValue.h"
 
 #include <QSet>
 
@@ -22,6 +23,11 @@ void entry(CMultiParamsTable& table, ComboCell& cell, int index);
 void unit(CMultiParamsTable& table, NumberCell& cell, int index);
 
 void check(CMultiParamsTable& table, CellItem& cell, bool checked);
+
+/// Unit, check and value that the cell was added with, each with the event of its own when it is another.
+/// @p initial is judged right.
+void initial(CMultiParamsTable& table, CellItem& cell, const InitialValue& initial);
+
 void doubleClick(CMultiParamsTable& table, const CellItem& cell);
 
 /// Stores what the person wants to see and shows it at once, be it hidden by program.

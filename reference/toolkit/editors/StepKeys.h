@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QKeyEvent>
+
+namespace WQ {
+
+/// What Shift makes of one step, by key or wheel.
+constexpr int kManySteps = 10;
+
+/// How far a key steps the number or time in an editor: Up and Down one step, ten with Shift, a page ten. 0 for a key
+/// that does not step.
+inline int stepsOf(const QKeyEvent& event)
+{
+    const int few = event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1;
+    switch (event.key()) {
+    case Qt::Key_Up:
+        return few;
+    case Qt::Key_Down:
+        return -few;
+    case Qt::Key_PageUp:
+        return kManySteps;
+    case Qt::Key_PageDown:
+        return -kManySteps;
+    default:
+        return 0;
+    }
+}
+
+/// Whether an editor uses this key itself beside what a line of text uses.
+inline bool isEditorKey(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+        return true;
+    default:
+        return stepsOf(event) != 0;
+    }
+}
+
+} // namespace WQ
