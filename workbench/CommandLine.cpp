@@ -33,7 +33,24 @@ struct Options
     QCommandLineOption data{QStringLiteral("data"),
                             translated(QT_TRANSLATE_NOOP("workbench", "Folder of accounts, tasks and configuration.")),
                             QStringLiteral("dir")};
+    QCommandLineOption watchdog{
+        QStringLiteral("watchdog"),
+        translated(QT_TRANSLATE_NOOP("workbench", "Say when the event loop is held for more than <ms>.")),
+        QStringLiteral("ms")};
+    QCommandLineOption measureStart{
+        QStringLiteral("measure-start"),
+        translated(QT_TRANSLATE_NOOP("workbench", "Say after how many milliseconds the window is usable, and end."))};
 };
+
+void checkWatchdog(const QString& text, CommandLine& line)
+{
+    bool isNumber = false;
+    const int limit = text.toInt(&isNumber);
+    if (isNumber && limit >= 1)
+        line.watchdog = limit;
+    else
+        line.error = translated(QT_TRANSLATE_NOOP("workbench", "--watchdog takes milliseconds, not \"%1\".")).arg(text);
+}
 
 void checkScale(const QString& text, CommandLine& line)
 {
@@ -63,7 +80,8 @@ CommandLine readCommandLine(const QCoreApplication& application)
     parser.addHelpOption();
     parser.addVersionOption();
     const Options options;
-    parser.addOptions({options.tour, options.scale, options.theme, options.language, options.data});
+    parser.addOptions({options.tour, options.scale, options.theme, options.language, options.data, options.watchdog,
+                       options.measureStart});
     parser.process(application);
 
     CommandLine line;
@@ -71,6 +89,9 @@ CommandLine readCommandLine(const QCoreApplication& application)
     line.tourDirectory = parser.value(options.tour);
     line.theme = parser.value(options.theme);
     line.language = parser.value(options.language);
+    line.measureStart = parser.isSet(options.measureStart);
+    if (parser.isSet(options.watchdog))
+        checkWatchdog(parser.value(options.watchdog), line);
     if (parser.isSet(options.scale))
         checkScale(parser.value(options.scale), line);
     if (parser.isSet(options.theme))

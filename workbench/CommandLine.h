@@ -16,8 +16,10 @@ struct CommandLine
     QString tourDirectory; ///< empty when no tour is asked for
     QString language;      ///< empty for the one kept, or the system's
     std::optional<double> scale;
-    QString theme; ///< empty for the one kept, or for all in a tour
-    QString error; ///< what is wrong with it; empty when nothing is
+    QString theme;               ///< empty for the one kept, or for all in a tour
+    std::optional<int> watchdog; ///< milliseconds that the event loop may be held before it is said
+    bool measureStart = false;   ///< end when the window is usable, and say after how long
+    QString error;               ///< what is wrong with it; empty when nothing is
 };
 
 /// Reads the arguments. Answers --help and --version itself, which end the program.

@@ -139,10 +139,15 @@ void CreditPanel::setAccounts(const QStringList& accounts)
 
 void CreditPanel::setOperation(int operation)
 {
-    m_operation->setValue(operation);
-    m_param->setText(creditParam(operation));
+    loadParam(creditParam(operation));
+}
+
+void CreditPanel::loadParam(const QString& text)
+{
+    m_operation->setValue(text.section(QLatin1Char('+'), 0, 0).toInt());
+    m_param->setText(text);
     m_param->setCursorPosition(0);
-    applyParam(m_param->text());
+    applyParam(text);
 }
 
 void CreditPanel::applyParam(const QString& text)

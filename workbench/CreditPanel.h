@@ -32,6 +32,9 @@ public:
     /// Lays the table out for that operation with remembered figures.
     void setOperation(int operation);
 
+    /// Hands a parameter string to the table, as a person does who enters it here.
+    void loadParam(const QString& text);
+
     TC::CCreditParamTable* table() const;
 
     /// Hands a new UI scale to the table: only its owner does that.

@@ -43,6 +43,7 @@ inline constexpr auto kSetPriceType         = hostCallRow("setPriceType",       
 inline constexpr auto kSelectPrice          = hostCallRow("selectPrice",          &TC::COrderParamBaseTable::selectPrice);
 inline constexpr auto kSetFixedPrice        = hostCallRow("setFixedPrice",        &TC::COrderParamBaseTable::setFixedPrice);
 inline constexpr auto kSetOrderSettings     = hostCallRow("setOrderSettings",     &TC::COrderParamBaseTable::setOrderSettings);
+inline constexpr auto kSaveVisibleFlag      = hostCallRow("saveVisibleFlag",      &TC::COrderParamBaseTable::saveVisibleFlag);
 inline constexpr auto kUpdateCmdLog         = hostCallRow("updateCmdLog",         &TC::COrderParamBaseTable::updateCmdLog);
 inline constexpr auto kScaleTable           = hostCallRow("handleScaleChanged",   &TC::COrderParamBaseTable::handleScaleChanged);
 
@@ -54,6 +55,8 @@ inline constexpr auto kScaleCredit          = hostCallRow("handleScaleChanged", 
 
 inline constexpr auto kSetDialogTitle       = hostCallRow("setTitle",             &WQ::CFloatWidget::setTitle);
 
+inline constexpr auto kSetItemHidden        = hostCallRow("setItemHidden",        &WQ::CMultiParamsTable::setItemHidden);
+inline constexpr auto kSetVisibleItemSet    = hostCallRow("setVisibleItemSet",    &WQ::CMultiParamsTable::setVisibleItemSet);
 inline constexpr auto kResetComboData       = hostCallRow("resetComboData",       &WQ::CMultiParamsTable::resetComboData);
 // clang-format on
 

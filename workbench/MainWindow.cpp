@@ -4,15 +4,18 @@
 #include "workbench/CreditPanel.h"
 #include "workbench/EventPanel.h"
 #include "workbench/HostCalls.h"
+#include "workbench/HostForm.h"
 #include "workbench/Language.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/LookForm.h"
 #include "workbench/OrderControls.h"
 #include "workbench/QuoteLadder.h"
 #include "workbench/QuoteModel.h"
+#include "workbench/QuotePanel.h"
 #include "workbench/Recorder.h"
 #include "workbench/RecorderPanel.h"
 #include "workbench/SetupForm.h"
+#include "workbench/StateKeeper.h"
 #include "workbench/TableBench.h"
 #include "workbench/TaskPanel.h"
 #include "workbench/TicketPanel.h"
@@ -58,13 +61,16 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
     , m_bench(new TableBench)
     , m_form(new SetupForm)
     , m_look(new LookForm)
+    , m_host(new HostForm)
     , m_controls(new OrderControls)
     , m_events(new EventPanel)
     , m_tasks(new TaskPanel)
     , m_credit(new CreditPanel(m_recorder))
-    , m_ladder(new QuoteLadder)
+    , m_quotes(new QuotePanel)
     , m_ticket(new TicketPanel)
     , m_recorderPanel(new RecorderPanel(*m_recorder))
+    , m_keeper(new StateKeeper(
+          StateFile::usualPath(), [this] { return collectState(); }, this))
 {
     m_bench->setRecorder(m_recorder);
     m_tasks->setRecorder(m_recorder);
@@ -73,6 +79,7 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
     createCentre();
     createDocks();
     createMenus();
+    connectHost();
     for (PanelHost* host :
          {static_cast<PanelHost*>(m_bench), static_cast<PanelHost*>(m_tasks), static_cast<PanelHost*>(m_credit)})
         listenTo(host);
@@ -84,7 +91,8 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
     rebuildTable();
     m_bench->focusTable();
     resize(kFirstSize * WQ::resources::scale());
-    showProblems(hostData.problems);
+    for (const QString& problem : qAsConst(hostData.problems))
+        showProblem(problem);
 }
 
 MainWindow::~MainWindow() = default;
@@ -98,11 +106,7 @@ void MainWindow::createCentre()
     layout->addWidget(m_bench);
     layout->addStretch(1);
     setCentralWidget(centre);
-    connect(m_form, &SetupForm::setupChanged, this, &MainWindow::rebuildTable);
-    connect(m_form, &SetupForm::modulesChanged, this, [this](const QStringList& modules) {
-        reference::setModules(QSet<QString>(modules.begin(), modules.end()));
-        rebuildTable();
-    });
+    connect(m_form, &SetupForm::setupChanged, this, &MainWindow::showTable);
     connect(m_bench, &TableBench::rebuilt, m_controls, &OrderControls::setTable);
     connectLadder();
 }
@@ -114,7 +118,9 @@ QWidget* MainWindow::createSetup()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_look);
-    layout->addWidget(m_form, 1);
+    layout->addWidget(m_form);
+    layout->addWidget(m_host);
+    layout->addStretch(1);
     connect(m_look, &LookForm::themeChosen, this, &MainWindow::chooseTheme);
     connect(m_look, &LookForm::scaleChosen, this, &MainWindow::chooseScale);
     connect(m_look, &LookForm::languageChosen, this, &MainWindow::chooseLanguage);
@@ -138,12 +144,12 @@ void MainWindow::connectLadder()
         m_ticket->setTable(table, m_bench->setup().traderType);
         readTable();
     });
-    connect(m_ladder, &QuoteLadder::priceTypeChosen, this, [this](int priceType) {
+    connect(ladder(), &QuoteLadder::priceTypeChosen, this, [this](int priceType) {
         if (m_bench->table())
             hostCall(*m_bench->table(), calls::kSelectPrice, ttservice::EPriceType(priceType));
         readTable();
     });
-    connect(m_ladder, &QuoteLadder::priceChosen, this, [this](double price) {
+    connect(ladder(), &QuoteLadder::priceChosen, this, [this](double price) {
         if (m_bench->table())
             hostCall(*m_bench->table(), calls::kSetFixedPrice, price);
         readTable();
@@ -156,18 +162,34 @@ void MainWindow::readTable()
 {
     m_controls->refresh();
     m_ticket->refresh();
-    m_ladder->quotes()->setChosen(m_bench->table() ? int(m_bench->table()->priceType()) : -1);
+    ladder()->quotes()->setChosen(m_bench->table() ? int(m_bench->table()->priceType()) : -1);
+    m_keeper->commit();
 }
 
 void MainWindow::rebuildTable()
 {
+    m_memory.forget(m_form->setup());
     m_bench->rebuild(m_form->setup(), m_controls->drive());
+    m_keeper->commit();
+}
+
+/// Makes the order panel of the form as it was left.
+void MainWindow::showTable()
+{
+    if (m_isKept && m_bench->table())
+        m_memory.remember(m_bench->setup(), *m_bench->table());
+    const TableSetup setup = m_form->setup();
+    m_bench->rebuild(setup, m_controls->drive());
+    if (m_isKept && m_bench->table())
+        m_memory.recall(setup, *m_bench->table(), m_controls->drive().enabled);
+    readTable();
 }
 
 void MainWindow::chooseTheme(const QString& name)
 {
     setTheme(name);
     tickChoices();
+    m_keeper->commit();
 }
 
 void MainWindow::chooseScale(double scale)
@@ -176,18 +198,21 @@ void MainWindow::chooseScale(double scale)
     m_bench->scaleTable();
     m_credit->scaleTable();
     tickChoices();
+    m_keeper->commit();
 }
 
 void MainWindow::chooseLanguage(const QString& language)
 {
     setLanguage(language);
     tickChoices();
+    m_keeper->commit();
 }
 
-void MainWindow::showProblems(const QStringList& problems)
+void MainWindow::showProblem(const QString& problem)
 {
-    if (!problems.isEmpty())
-        statusBar()->showMessage(problems.join(QStringLiteral("; ")));
+    m_problems << problem;
+    statusBar()->showMessage(m_problems.join(QStringLiteral("; ")));
+    statusBar()->setToolTip(m_problems.join(QLatin1Char('\n')));
 }
 
 TableBench* MainWindow::bench() const
@@ -212,7 +237,12 @@ CreditPanel* MainWindow::credit() const
 
 QuoteLadder* MainWindow::ladder() const
 {
-    return m_ladder;
+    return m_quotes->ladder();
+}
+
+QuotePanel* MainWindow::quotePanel() const
+{
+    return m_quotes;
 }
 
 TicketPanel* MainWindow::ticket() const

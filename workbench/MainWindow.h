@@ -1,6 +1,8 @@
 #pragma once
 
 #include "workbench/HostData.h"
+#include "workbench/StateFile.h"
+#include "workbench/TableMemory.h"
 
 #include <QMainWindow>
 
@@ -14,14 +16,17 @@ namespace workbench {
 
 class CreditPanel;
 class EventPanel;
+class HostForm;
 class LanguageTexts;
 class LookForm;
 class OrderControls;
 class PanelHost;
 class QuoteLadder;
+class QuotePanel;
 class Recorder;
 class RecorderPanel;
 class SetupForm;
+class StateKeeper;
 class TableBench;
 class TaskPanel;
 class TicketPanel;
@@ -44,7 +49,8 @@ public:
     explicit MainWindow(HostData hostData, QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Makes the order panel anew from the form. Safe from inside an event of the table that it replaces.
+    /// Makes the order panel anew from the form, as constructed: what is kept of that table is forgotten. Safe from
+    /// inside an event of the table that it replaces.
     void rebuildTable();
 
     /// Take effect at once, for every widget.
@@ -52,15 +58,17 @@ public:
     void chooseScale(double scale);
     void chooseLanguage(const QString& language);
 
-    /// Window state and choices of the last run; without one the window keeps its defaults.
-    void loadState();
-    void storeState() const;
+    /// Brings back what was committed and chosen in the last run, and keeps from now on what is committed and chosen in
+    /// this one. Modules, client mode and clock are left as they are when the host was told where to read them.
+    enum class Services { Kept, AsTold };
+    void loadState(Services services = Services::Kept);
 
     TableBench* bench() const;
     EventPanel* events() const;
     SetupForm* form() const;
     CreditPanel* credit() const;
     QuoteLadder* ladder() const;
+    QuotePanel* quotePanel() const;
     TicketPanel* ticket() const;
     Recorder* recorder() const;
     RecorderPanel* recorderPanel() const;
@@ -88,6 +96,11 @@ private:
     QDockWidget* dock(const char* name) const;
     static void goTo(QDockWidget* dock);
     void listenTo(PanelHost* host);
+    void showTable();
+    void connectHost();
+    void takeServices(const Json& services);
+    void keepService(const char* name, Json value);
+    Json collectState();
     void connectLadder();
     void readTable();
     void onEvent(int event, int a, int b, const QString& text, void* payload);
@@ -105,20 +118,26 @@ private:
     void createRecordingMenu();
     void createHelpMenu();
     void tickChoices();
-    void showProblems(const QStringList& problems);
+    void showProblem(const QString& problem);
 
     LanguageTexts* m_texts;
     Recorder* m_recorder;
     TableBench* m_bench;
     SetupForm* m_form;
     LookForm* m_look;
+    HostForm* m_host;
     OrderControls* m_controls;
     EventPanel* m_events;
     TaskPanel* m_tasks;
     CreditPanel* m_credit;
-    QuoteLadder* m_ladder;
+    QuotePanel* m_quotes;
     TicketPanel* m_ticket;
     RecorderPanel* m_recorderPanel;
+    StateKeeper* m_keeper;
+    TableMemory m_memory;
+    Json m_services = Json::object(); ///< what a person chose of the services, in this run or an earlier one
+    bool m_isKept = false;            ///< loadState() was called
+    QStringList m_problems;
     QList<QDockWidget*> m_docks;
     QList<QAction*> m_choiceActions; ///< themes and languages, ticked as they are in force
 };

@@ -5,8 +5,9 @@
 #include "workbench/FormScroll.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/OrderControls.h"
-#include "workbench/QuoteLadder.h"
+#include "workbench/QuotePanel.h"
 #include "workbench/RecorderPanel.h"
+#include "workbench/TableBench.h"
 #include "workbench/TaskPanel.h"
 #include "workbench/TicketPanel.h"
 #include "workbench/Vocabulary.h"
@@ -54,8 +55,8 @@ const std::vector<MainWindow::DockRow>& MainWindow::dockRows()
     constexpr auto kBottom = Qt::BottomDockWidgetArea;
     // clang-format off
     static const std::vector<DockRow> kRows = {
-        {"setupDock",    QT_TRANSLATE_NOOP("workbench", "Setup"),      "Ctrl+1", kLeft,   "",             [](MainWindow& w) { return scrolled(w.createSetup()); }},
-        {"quoteDock",    QT_TRANSLATE_NOOP("workbench", "Quote"),      "Ctrl+2", kLeft,   "",             [](MainWindow& w) { return static_cast<QWidget*>(w.m_ladder); }},
+        {"setupDock",    QT_TRANSLATE_NOOP("workbench", "Modules and host"), "Ctrl+1", kLeft,   "",             [](MainWindow& w) { return scrolled(w.createSetup()); }},
+        {"quoteDock",    QT_TRANSLATE_NOOP("workbench", "Quote"),      "Ctrl+2", kLeft,   "",             [](MainWindow& w) { return static_cast<QWidget*>(w.m_quotes); }},
         {"controlsDock", QT_TRANSLATE_NOOP("workbench", "Host calls"), "Ctrl+3", kRight,  "",             [](MainWindow& w) { return scrolled(w.m_controls); }},
         {"tasksDock",    QT_TRANSLATE_NOOP("workbench", "Tasks"),      "Ctrl+4", kRight,  "controlsDock", [](MainWindow& w) { return static_cast<QWidget*>(w.m_tasks); }},
         {"creditDock",   QT_TRANSLATE_NOOP("workbench", "Credit"),     "Ctrl+5", kRight,  "controlsDock", [](MainWindow& w) { return scrolled(w.m_credit); }},

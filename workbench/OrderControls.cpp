@@ -186,6 +186,16 @@ TableDrive OrderControls::drive() const
     return m_drive;
 }
 
+void OrderControls::setDrive(const TableDrive& drive)
+{
+    m_drive = drive;
+    m_code->setText(drive.code);
+    if (drive.flags)
+        m_flags->setFlags(*drive.flags);
+    const QSignalBlocker quiet(m_enabled);
+    m_enabled->setChecked(drive.enabled);
+}
+
 void OrderControls::refresh()
 {
     if (!m_table) {

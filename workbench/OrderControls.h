@@ -35,6 +35,9 @@ public:
     /// What was chosen here, for the next table. A new one starts as constructed until a person chooses something.
     TableDrive drive() const;
 
+    /// Shows what was chosen in an earlier run, for the next table, without announcing it.
+    void setDrive(const TableDrive& drive);
+
     /// Reads the table's state again.
     void refresh();
 

@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <utility>
+
 namespace workbench {
 
 namespace {
@@ -22,6 +24,19 @@ constexpr int kLastRow = 5;
 static_assert(ttservice::PRTP_SELL5 == 0 && ttservice::PRTP_LATEST == kLastRow
               && ttservice::PRTP_BUY5 == QuoteModel::kLevels - 1);
 
+QString priceText(double price)
+{
+    return QString::number(price, 'f', kPriceDecimals);
+}
+
+/// 1 above the last price, -1 below it, 0 at it.
+int sideOf(const QuoteModel::Quotes& quotes, int row)
+{
+    const double last = quotes[kLastRow].price;
+    const double price = quotes[static_cast<std::size_t>(row)].price;
+    return int(price > last) - int(price < last);
+}
+
 } // namespace
 
 QuoteModel::QuoteModel(QObject* parent)
@@ -31,8 +46,23 @@ QuoteModel::QuoteModel(QObject* parent)
 
 void QuoteModel::setQuotes(const Quotes& quotes)
 {
-    m_quotes = quotes;
-    Q_EMIT dataChanged(index(0, Price), index(kLevels - 1, Volume));
+    const Quotes before = std::exchange(m_quotes, quotes);
+    for (int row = 0; row < kLevels; ++row)
+        tellChange(row, before);
+}
+
+void QuoteModel::tellChange(int row, const Quotes& before)
+{
+    const auto at = static_cast<std::size_t>(row);
+    if (priceText(before[at].price) != priceText(m_quotes[at].price) || sideOf(before, row) != sideOf(m_quotes, row))
+        Q_EMIT dataChanged(index(row, Price), index(row, Price));
+    if (before[at].volume != m_quotes[at].volume && row != kLastRow)
+        Q_EMIT dataChanged(index(row, Volume), index(row, Volume));
+}
+
+const QuoteModel::Quotes& QuoteModel::quotes() const
+{
+    return m_quotes;
 }
 
 void QuoteModel::setChosen(int priceType)
@@ -75,7 +105,7 @@ QVariant QuoteModel::text(int row, int column) const
     case Level:
         return labelOf(priceTypes(), priceTypeOf(row));
     case Price:
-        return QString::number(quote.price, 'f', kPriceDecimals);
+        return priceText(quote.price);
     case Volume:
         return row == kLastRow ? QVariant() : QLocale(QLocale::English).toString(quote.volume);
     }
@@ -86,11 +116,10 @@ QVariant QuoteModel::colour(int row, int column) const
 {
     if (column != Price)
         return {};
-    const double last = priceOf(kLastRow);
-    const double price = priceOf(row);
-    if (row == kLastRow || (price <= last && price >= last))
+    const int side = sideOf(m_quotes, row);
+    if (side == 0)
         return {};
-    return WQ::resources::color(price > last ? WQ::keys::kBuy : WQ::keys::kSell);
+    return WQ::resources::color(side > 0 ? WQ::keys::kBuy : WQ::keys::kSell);
 }
 
 QVariant QuoteModel::data(const QModelIndex& index, int role) const

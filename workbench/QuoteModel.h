@@ -25,7 +25,9 @@ public:
 
     explicit QuoteModel(QObject* parent = nullptr);
 
+    /// Announces the cells alone that show something else afterwards: a quote moves many times a second.
     void setQuotes(const Quotes& quotes);
+    const Quotes& quotes() const;
 
     /// Marks the row of that price type as chosen; one that is no level marks none.
     void setChosen(int priceType);
@@ -41,6 +43,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    void tellChange(int row, const Quotes& before);
     QVariant text(int row, int column) const;
     QVariant colour(int row, int column) const;
 

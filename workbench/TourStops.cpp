@@ -68,6 +68,8 @@ constexpr std::array kWindowStops = {
     WindowStop{"window-tasks",          "en",    "tasksDock",    1,  1180, 760},
     WindowStop{"window-credit",         "zh_CN", "creditDock",   1,  1180, 760},
     WindowStop{"window-small",          "en",    "controlsDock", -1, 1024, 700},
+    WindowStop{"window-host",           "en",    "setupDock",    1,  1180, 1160},
+    WindowStop{"window-host-zh",        "zh_CN", "setupDock",    1,  1180, 1160},
     WindowStop{"window-recorder",       "en",    "recorderDock", 1,  1180, 760},
     WindowStop{"window-recorder-small", "zh_CN", "recorderDock", 1,  1024, 700},
 };

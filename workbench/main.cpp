@@ -2,17 +2,22 @@
 #include "workbench/CommandLine.h"
 #include "workbench/HostData.h"
 #include "workbench/Language.h"
+#include "workbench/LoopWatch.h"
 #include "workbench/MainWindow.h"
 #include "workbench/RuntimeDirectory.h"
+#include "workbench/Snapshot.h"
 #include "workbench/Tour.h"
 
 #include "reference/toolkit/Resources.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QTextStream>
+#include <QTimer>
 
 #include <cstdio>
 #include <ctime>
+#include <optional>
 
 namespace {
 
@@ -61,7 +66,16 @@ int tour(const workbench::CommandLine& line)
     return result.error.isEmpty() ? EXIT_SUCCESS : fail(result.error);
 }
 
-int work(const workbench::CommandLine& line)
+/// Usable: painted, and everything that was posted until then carried out.
+void sayStartAndEnd(const QElapsedTimer& sinceStart)
+{
+    QTimer::singleShot(0, qApp, [sinceStart] {
+        QTextStream(stdout) << "usable after " << sinceStart.elapsed() << " ms\n";
+        QApplication::quit();
+    });
+}
+
+int work(const workbench::CommandLine& line, const QElapsedTimer& sinceStart)
 {
     const workbench::SavedLook saved = workbench::savedLook();
     if (line.language.isEmpty() && !saved.language.isEmpty())
@@ -71,15 +85,29 @@ int work(const workbench::CommandLine& line)
         workbench::setTheme(theme);
     workbench::setScale(line.scale.value_or(saved.scale));
     workbench::MainWindow window(workbench::loadHostData(line.dataDirectory));
-    window.loadState();
+    window.loadState(line.dataDirectory.isEmpty() ? workbench::MainWindow::Services::Kept
+                                                  : workbench::MainWindow::Services::AsTold);
     window.show();
-    return QApplication::exec();
+    workbench::settle();
+    if (line.measureStart)
+        sayStartAndEnd(sinceStart);
+    std::optional<workbench::LoopWatch> watch;
+    if (line.watchdog) {
+        watch.emplace(*line.watchdog);
+        watch->start();
+    }
+    const int code = QApplication::exec();
+    if (watch)
+        watch->report();
+    return code;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
     workbench::ensureRuntimeDirectory();
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
@@ -102,5 +130,5 @@ int main(int argc, char** argv)
     if (!line.language.isEmpty())
         workbench::setLanguage(line.language);
     workbench::dressApplication();
-    return line.tourDirectory.isEmpty() ? work(line) : tour(line);
+    return line.tourDirectory.isEmpty() ? work(line, sinceStart) : tour(line);
 }

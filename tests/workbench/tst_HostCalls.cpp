@@ -16,7 +16,8 @@ const char* const kAnswering =
     "param getId getMultiParamsTable orderType getOperationType priceType getStockCode isExpand "
     "getOrderSettings transferTimePeriod getDefaultOrderSetting orderSetting2Param getDefault "
     "singleVolType getModifiedPriceByOptTypeForCalc realHeight getSelectAccount getCurrentCode "
-    "itemText itemUnit itemData itemDouble itemInt getItem getBtnNameByID getBtnIDByName";
+    "itemText itemUnit itemData itemDouble itemInt getItem getBtnNameByID getBtnIDByName "
+    "getVisibleItemIdSet";
 
 /// Operations whose names many other classes have as well.
 const char* const kNamesOfOthers = "clear save setTitle";

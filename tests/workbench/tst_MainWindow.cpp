@@ -63,7 +63,7 @@ void tst_MainWindow::initTestCase()
 
 void tst_MainWindow::init()
 {
-    QFile::remove(m_settings.filePath(QStringLiteral("orderparam/workbench.ini")));
+    QFile::remove(m_settings.filePath(QStringLiteral("orderparam/workbench.json")));
     reference::resetServices();
     setTheme(QStringLiteral("dark"));
     setScale(1.0);
@@ -140,6 +140,7 @@ void tst_MainWindow::choicesAreBackAfterARestart()
     chosen.tableClass = TableClass::Code;
     {
         MainWindow window({});
+        window.loadState();
         window.form()->setSetup(chosen);
         window.chooseTheme(QStringLiteral("light"));
         window.chooseScale(1.25);
@@ -159,10 +160,10 @@ void tst_MainWindow::choicesAreBackAfterARestart()
 void tst_MainWindow::aBrokenStateFileIsNoObstacle()
 {
     QVERIFY(QDir(m_settings.path()).mkpath(QStringLiteral("orderparam")));
-    QFile file(m_settings.filePath(QStringLiteral("orderparam/workbench.ini")));
+    QFile file(m_settings.filePath(QStringLiteral("orderparam/workbench.json")));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(
-        "[table]\nclass=99\nidentity=abc\nbrokerType=6\n[window]\nlayout=xyz\ngeometry=@Invalid()\n[look]\nscale=nan");
+    file.write(R"({"version":1,"setup":{"class":99,"identity":"abc","brokerType":6},"tables":[1],"services":7,)"
+               R"("window":{"layout":"xyz","geometry":3},"look":{"scale":"nan"},"drive":null,"credit":{}})");
     file.close();
     MainWindow window({});
     window.loadState();

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void wrongArgumentsAreNamed_data();
     void wrongArgumentsAreNamed();
     void withoutADisplayItSaysSo();
+    void itTellsWhenItIsUsable();
 };
 
 void tst_Program::itTellsItsVersionWithoutADisplay()
@@ -51,7 +52,8 @@ void tst_Program::itTellsItsOptionsWithoutADisplay()
 {
     const Outcome outcome = run({QStringLiteral("--help")}, QString());
     QCOMPARE(outcome.exitCode, 0);
-    for (const char* option : {"--tour", "--scale", "--theme", "--language", "--data", "--version"})
+    for (const char* option :
+         {"--tour", "--scale", "--theme", "--language", "--data", "--version", "--watchdog", "--measure-start"})
         QVERIFY2(outcome.output.contains(QLatin1String(option)), option);
     QCOMPARE(outcome.errors, QString());
 }
@@ -68,6 +70,7 @@ void tst_Program::wrongArgumentsAreNamed_data()
     row("scale no number", {QStringLiteral("--scale=nan")}, QStringLiteral("nan"));
     row("unknown theme", {QStringLiteral("--theme=pink")}, QStringLiteral("pink"));
     row("unknown language", {QStringLiteral("--language=xx")}, QStringLiteral("xx"));
+    row("a watchdog without a number", {QStringLiteral("--watchdog=x")}, QStringLiteral("--watchdog"));
     row("unknown option", {QStringLiteral("--frobnicate")}, QStringLiteral("frobnicate"));
     row("an argument too many", {QStringLiteral("extra")}, QStringLiteral("extra"));
     row("a tour without a folder", {QStringLiteral("--tour=")}, QStringLiteral("--tour"));
@@ -88,6 +91,20 @@ void tst_Program::withoutADisplayItSaysSo()
     const Outcome outcome = run({}, QString());
     QCOMPARE(outcome.exitCode, 1);
     QVERIFY2(outcome.errors.contains(QStringLiteral("--tour")), qPrintable(outcome.errors));
+}
+
+// The figure is a report: how long it takes depends on what else the machine does.
+void tst_Program::itTellsWhenItIsUsable()
+{
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const Outcome outcome = run({QStringLiteral("--measure-start"), QStringLiteral("--watchdog=50")});
+    qunsetenv("XDG_CONFIG_HOME");
+    QCOMPARE(outcome.exitCode, 0);
+    const QRegularExpression usable(QStringLiteral("^usable after \\d+ ms\n$"));
+    QVERIFY2(usable.match(outcome.output).hasMatch(), qPrintable(outcome.output));
+    QVERIFY2(outcome.errors.contains(QStringLiteral("watchdog: held")), qPrintable(outcome.errors));
+    qInfo("%s%s", qPrintable(outcome.output), qPrintable(outcome.errors));
 }
 
 QTEST_APPLESS_MAIN(tst_Program)

@@ -1,0 +1,181 @@
+#include "workbench/StateFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+using namespace workbench;
+
+namespace {
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+QStringList filesLike(const QTemporaryDir& folder, const QString& pattern)
+{
+    return QDir(folder.path()).entryList({pattern}, QDir::Files);
+}
+
+} // namespace
+
+class tst_StateFile : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void whatIsWrittenIsRead();
+    void aFileCutAtAnyPlaceIsDamaged();
+    void otherBytesAreDamaged_data();
+    void otherBytesAreDamaged();
+    void valuesOfOtherTypesAreLeftOut();
+    void aDamagedFileIsSetAsideAndTold();
+    void severalDamagedFilesAreAllKept();
+    void aLaterVersionIsReadAndCopied();
+    void anUnwritableFolderIsToldOnce();
+    void theSameStateIsNotWrittenAgain();
+};
+
+void tst_StateFile::whatIsWrittenIsRead()
+{
+    const StateReading reading = readState(writtenState({{"a", 1}, {"b", {{"c", "文"}}}}));
+    QVERIFY(reading.fault == StateFault::None);
+    QCOMPARE(intIn(reading.state, "a", 0), 1);
+    QCOMPARE(textIn(objectIn(reading.state, "b"), "c"), QStringLiteral("文"));
+}
+
+void tst_StateFile::aFileCutAtAnyPlaceIsDamaged()
+{
+    const QByteArray whole = writtenState({{"look", {{"theme", "light"}, {"scale", 1.25}}}, {"list", {1, 2}}});
+    QVERIFY(whole.endsWith("}\n"));
+    for (int length = 0; length < whole.size() - 1; ++length) {
+        const StateReading reading = readState(whole.left(length));
+        QVERIFY2(reading.fault == StateFault::Damaged, qPrintable(QString::number(length)));
+        QVERIFY(reading.state.empty());
+    }
+    QVERIFY(readState(whole.chopped(1)).fault == StateFault::None);
+}
+
+void tst_StateFile::otherBytesAreDamaged_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("zeros") << QByteArray(4096, '\0');
+    QTest::newRow("no object") << QByteArray("[1]");
+    QTest::newRow("no version") << QByteArray("{}");
+    QTest::newRow("a version of 0") << QByteArray(R"({"version":0})");
+    QTest::newRow("a version that is a text") << QByteArray(R"({"version":"1"})");
+    QTest::newRow("no UTF-8") << QByteArray("{\"version\":1,\"a\":\"\xff\"}");
+    QTest::newRow("a number out of range") << QByteArray(R"({"version":1,"a":1e999})");
+    QTest::newRow("very deep") << QByteArray(R"({"version":1,"a":)") + QByteArray(100000, '[') + QByteArray(100000, ']')
+            + '}';
+    QTest::newRow("very large") << QByteArray(R"({"version":1,"a":")") + QByteArray(5 * 1024 * 1024, 'x') + "\"}";
+}
+
+void tst_StateFile::otherBytesAreDamaged()
+{
+    QFETCH(QByteArray, bytes);
+    const StateReading reading = readState(bytes);
+    QVERIFY(reading.fault == StateFault::Damaged);
+    QVERIFY(reading.state.empty());
+}
+
+void tst_StateFile::valuesOfOtherTypesAreLeftOut()
+{
+    const Json object = Json::parse(R"({"text":"x","big":3e9,"half":1.5,"list":["a",1,null],"number":7,"null":null})");
+    QCOMPARE(intIn(object, "text", 4), 4);
+    QCOMPARE(intIn(object, "big", 4), 4);
+    QCOMPARE(intIn(object, "half", 4), 4);
+    QCOMPARE(intIn(object, "null", 4), 4);
+    QCOMPARE(intIn(object, "number", 4), 7);
+    QCOMPARE(intIn(Json(), "number", 4), 4);
+    QCOMPARE(boolIn(object, "number", true), true);
+    QCOMPARE(textIn(object, "number"), QString());
+    QCOMPARE(textsIn(object, "list"), QStringList{QStringLiteral("a")});
+    QVERIFY(objectIn(object, "list").empty());
+}
+
+void tst_StateFile::aDamagedFileIsSetAsideAndTold()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("workbench.json"));
+    write(path, "{\"version\":1,");
+    StateFile file(path);
+    QVERIFY(file.load().empty());
+    QVERIFY(!QFile::exists(path));
+    const QStringList aside = filesLike(folder, QStringLiteral("workbench.json.damaged-*"));
+    QCOMPARE(aside.size(), 1);
+    QCOMPARE(bytesOf(folder.filePath(aside.first())), QByteArray("{\"version\":1,"));
+    const QStringList messages = file.takeMessages();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages.first().contains(aside.first()), qPrintable(messages.first()));
+    QVERIFY(file.takeMessages().isEmpty());
+    file.store({{"a", 2}});
+    QCOMPARE(intIn(StateFile(path).load(), "a", 0), 2);
+}
+
+void tst_StateFile::severalDamagedFilesAreAllKept()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("workbench.json"));
+    for (int i = 0; i < 3; ++i) {
+        write(path, "x" + QByteArray::number(i));
+        StateFile(path).load();
+    }
+    QCOMPARE(filesLike(folder, QStringLiteral("workbench.json.damaged-*")).size(), 3);
+}
+
+void tst_StateFile::aLaterVersionIsReadAndCopied()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("workbench.json"));
+    const QByteArray later = R"({"version":7,"look":{"theme":"light"},"unheard":[1]})";
+    write(path, later);
+    StateFile file(path);
+    const Json state = file.load();
+    QCOMPARE(textIn(objectIn(state, "look"), "theme"), QStringLiteral("light"));
+    QCOMPARE(file.takeMessages().size(), 1);
+    file.store(state);
+    QVERIFY(readState(bytesOf(path)).fault == StateFault::None);
+    QVERIFY(readState(bytesOf(path)).state.contains("unheard"));
+    const QStringList aside = filesLike(folder, QStringLiteral("workbench.json.newer-*"));
+    QCOMPARE(aside.size(), 1);
+    QCOMPARE(bytesOf(folder.filePath(aside.first())), later);
+}
+
+void tst_StateFile::anUnwritableFolderIsToldOnce()
+{
+    StateFile file(QStringLiteral("/dev/null/none/workbench.json"));
+    QVERIFY(file.load().empty());
+    QVERIFY(file.takeMessages().isEmpty());
+    file.store({{"a", 1}});
+    const QStringList messages = file.takeMessages();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages.first().contains(QStringLiteral("/dev/null/none")), qPrintable(messages.first()));
+    file.store({{"a", 2}});
+    QVERIFY(file.takeMessages().isEmpty());
+}
+
+void tst_StateFile::theSameStateIsNotWrittenAgain()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("workbench.json"));
+    StateFile file(path);
+    file.store({{"a", 1}});
+    QVERIFY(QFile::remove(path));
+    file.store({{"a", 1}});
+    QVERIFY(!QFile::exists(path));
+    file.store({{"a", 2}});
+    QVERIFY(QFile::exists(path));
+}
+
+QTEST_GUILESS_MAIN(tst_StateFile)
+#include "tst_StateFile.moc"

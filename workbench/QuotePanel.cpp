@@ -1,0 +1,71 @@
+#include "workbench/QuotePanel.h"
+
+#include "workbench/LanguageTexts.h"
+#include "workbench/QuoteFeed.h"
+#include "workbench/QuoteLadder.h"
+#include "workbench/Vocabulary.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+namespace workbench {
+
+QuotePanel::QuotePanel(QWidget* parent)
+    : QWidget(parent)
+    , m_ladder(new QuoteLadder)
+    , m_feed(new QuoteFeed(*m_ladder->quotes(), this))
+    , m_running(new QCheckBox)
+    , m_rate(new QSpinBox)
+    , m_texts(new LanguageTexts(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    auto* bar = new QHBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    bar->setContentsMargins(8, 4, 8, 4);
+    bar->addWidget(m_running, 1);
+    bar->addWidget(m_rate);
+    layout->addWidget(m_ladder, 1);
+    layout->addLayout(bar);
+    m_rate->setRange(QuoteFeed::kSlowest, QuoteFeed::kFastest);
+    m_rate->setKeyboardTracking(false);
+    setFeed(false, m_feed->rate());
+    connect(m_running, &QCheckBox::toggled, this, [this](bool running) {
+        m_feed->setRunning(running);
+        Q_EMIT feedChosen();
+    });
+    connect(m_rate, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int rate) {
+        m_feed->setRate(rate);
+        Q_EMIT feedChosen();
+    });
+    m_texts->keep([this] {
+        m_running->setText(translated(QT_TRANSLATE_NOOP("workbench", "&Quote moves")));
+        m_rate->setSuffix(translated(QT_TRANSLATE_NOOP("workbench", " a second")));
+        m_rate->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Updates of the quote")));
+    });
+}
+
+QuoteLadder* QuotePanel::ladder() const
+{
+    return m_ladder;
+}
+
+QuoteFeed* QuotePanel::feed() const
+{
+    return m_feed;
+}
+
+void QuotePanel::setFeed(bool running, int rate)
+{
+    const QSignalBlocker quiet(m_running);
+    const QSignalBlocker calm(m_rate);
+    m_feed->setRate(rate);
+    m_feed->setRunning(running);
+    m_running->setChecked(running);
+    m_rate->setValue(m_feed->rate());
+}
+
+} // namespace workbench

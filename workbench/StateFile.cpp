@@ -1,0 +1,178 @@
+#include "workbench/StateFile.h"
+
+#include "workbench/Vocabulary.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QSettings>
+
+#include <cmath>
+#include <limits>
+
+namespace workbench {
+
+namespace {
+
+constexpr int kVersion = 1;
+constexpr auto kVersionKey = "version";
+
+/// A state is some kilobytes; what is larger or deeper was not written by this program and would only cost memory.
+constexpr int kLargestFile = 4 * 1024 * 1024;
+constexpr int kLargestDepth = 32;
+
+const Json* memberOf(const Json& object, const char* key)
+{
+    if (!object.is_object())
+        return nullptr;
+    const auto found = object.find(key);
+    return found == object.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+StateReading readState(const QByteArray& bytes)
+{
+    if (bytes.size() > kLargestFile)
+        return {Json::object(), StateFault::Damaged};
+    bool isTooDeep = false;
+    const auto watchDepth = [&isTooDeep](int depth, Json::parse_event_t, const Json&) {
+        isTooDeep = isTooDeep || depth > kLargestDepth;
+        return !isTooDeep;
+    };
+    Json state = Json::parse(bytes.constBegin(), bytes.constEnd(), watchDepth, false);
+    if (isTooDeep || !state.is_object())
+        return {Json::object(), StateFault::Damaged};
+    const int version = intIn(state, kVersionKey, 0);
+    if (version < 1)
+        return {Json::object(), StateFault::Damaged};
+    return {std::move(state), version > kVersion ? StateFault::Newer : StateFault::None};
+}
+
+QByteArray writtenState(Json state)
+{
+    state[kVersionKey] = kVersion;
+    return QByteArray::fromStdString(state.dump(1, ' ', false, Json::error_handler_t::replace)) + '\n';
+}
+
+StateFile::StateFile(QString path)
+    : m_path(std::move(path))
+{
+}
+
+QString StateFile::usualPath()
+{
+    const QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("orderparam"),
+                             QStringLiteral("workbench"));
+    return QFileInfo(settings.fileName()).dir().filePath(QStringLiteral("workbench.json"));
+}
+
+Json StateFile::load()
+{
+    QFile file(m_path);
+    if (!file.exists())
+        return Json::object();
+    if (!file.open(QIODevice::ReadOnly)) {
+        say(translated(QT_TRANSLATE_NOOP("workbench", "The state of the last run, %1, cannot be read.")).arg(m_path));
+        return Json::object();
+    }
+    StateReading reading = readState(file.read(kLargestFile + 1));
+    file.close();
+    if (reading.fault == StateFault::Damaged)
+        setAside(QT_TRANSLATE_NOOP("workbench", "The state of the last run was damaged and is set aside as %1."),
+                 false);
+    else if (reading.fault == StateFault::Newer)
+        setAside(QT_TRANSLATE_NOOP("workbench", "The state was written by a later version; a copy of it is %1."), true);
+    return std::move(reading.state);
+}
+
+void StateFile::setAside(const char* why, bool keepOriginal)
+{
+    const QString stem = m_path + QLatin1String(keepOriginal ? ".newer-" : ".damaged-")
+        + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    QString place = stem;
+    for (int number = 2; QFile::exists(place) && number < 1000; ++number)
+        place = QStringLiteral("%1-%2").arg(stem).arg(number);
+    const bool isDone = keepOriginal ? QFile::copy(m_path, place) : QFile::rename(m_path, place);
+    if (isDone)
+        say(translated(why).arg(place));
+    else
+        say(translated(QT_TRANSLATE_NOOP("workbench",
+                                         "The state of the last run, %1, is not used and cannot be "
+                                         "set aside."))
+                .arg(m_path));
+}
+
+void StateFile::store(const Json& state)
+{
+    const QByteArray bytes = writtenState(state);
+    if (bytes == m_written)
+        return;
+    QDir().mkpath(QFileInfo(m_path).path());
+    QSaveFile file(m_path);
+    const bool isStored = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    if (isStored)
+        m_written = bytes;
+    else if (!m_hasFailed)
+        say(translated(QT_TRANSLATE_NOOP("workbench", "The state cannot be kept in %1: %2"))
+                .arg(m_path, file.errorString()));
+    m_hasFailed = !isStored;
+}
+
+void StateFile::say(const QString& message)
+{
+    m_messages << message;
+}
+
+QStringList StateFile::takeMessages()
+{
+    return std::exchange(m_messages, {});
+}
+
+int intIn(const Json& object, const char* key, int fallback)
+{
+    const double number = numberIn(object, key, fallback);
+    const bool isInt = number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
+    return isInt && std::trunc(number) == number ? static_cast<int>(number) : fallback;
+}
+
+double numberIn(const Json& object, const char* key, double fallback)
+{
+    const Json* member = memberOf(object, key);
+    return member && member->is_number() ? member->get<double>() : fallback;
+}
+
+bool boolIn(const Json& object, const char* key, bool fallback)
+{
+    const Json* member = memberOf(object, key);
+    return member && member->is_boolean() ? member->get<bool>() : fallback;
+}
+
+QString textIn(const Json& object, const char* key)
+{
+    const Json* member = memberOf(object, key);
+    return member && member->is_string() ? QString::fromStdString(member->get<std::string>()) : QString();
+}
+
+QStringList textsIn(const Json& object, const char* key)
+{
+    const Json* member = memberOf(object, key);
+    QStringList texts;
+    if (!member || !member->is_array())
+        return texts;
+    for (const Json& entry : *member)
+        if (entry.is_string())
+            texts << QString::fromStdString(entry.get<std::string>());
+    return texts;
+}
+
+Json objectIn(const Json& object, const char* key)
+{
+    const Json* member = memberOf(object, key);
+    return member && member->is_object() ? *member : Json::object();
+}
+
+} // namespace workbench
