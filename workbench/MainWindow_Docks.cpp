@@ -1,5 +1,6 @@
 #include "workbench/MainWindow.h"
 
+#include "workbench/ComparePanel.h"
 #include "workbench/CreditPanel.h"
 #include "workbench/EventPanel.h"
 #include "workbench/FormScroll.h"
@@ -11,6 +12,7 @@
 #include "workbench/TaskPanel.h"
 #include "workbench/TicketPanel.h"
 #include "workbench/Vocabulary.h"
+#include "workbench/WhyPanel.h"
 
 #include "reference/toolkit/Resources.h"
 
@@ -30,6 +32,14 @@ constexpr int kQuoteHeight = 290;
 QWidget* scrolled(QWidget* form)
 {
     return new FormScroll(form);
+}
+
+/// What a host calls is not always followed by an event.
+QWidget* whyPanel(TableBench& bench, OrderControls& controls)
+{
+    auto* const panel = new WhyPanel(bench);
+    QObject::connect(&controls, &OrderControls::tableDriven, panel, &WhyPanel::refresh);
+    return panel;
 }
 
 /// The first part of @p content that takes the keyboard by Tab, in the order of Tab.
@@ -63,6 +73,8 @@ const std::vector<MainWindow::DockRow>& MainWindow::dockRows()
         {"ticketDock",   QT_TRANSLATE_NOOP("workbench", "Ticket"),     "Ctrl+6", kRight,  "controlsDock", [](MainWindow& w) { return static_cast<QWidget*>(w.m_ticket); }},
         {"eventsDock",   QT_TRANSLATE_NOOP("workbench", "Events"),     "Ctrl+7", kBottom, "",             [](MainWindow& w) { return static_cast<QWidget*>(w.m_events); }},
         {"recorderDock", QT_TRANSLATE_NOOP("workbench", "Recorder"),   "Ctrl+8", kBottom, "eventsDock",   [](MainWindow& w) { return static_cast<QWidget*>(w.m_recorderPanel); }},
+        {"whyDock",      QT_TRANSLATE_NOOP("workbench", "Why?"),       "Ctrl+9", kBottom, "eventsDock",   [](MainWindow& w) { return whyPanel(*w.m_bench, *w.m_controls); }},
+        {"compareDock",  QT_TRANSLATE_NOOP("workbench", "Compare"),    "Ctrl+D", kBottom, "eventsDock",   [](MainWindow& w) { return static_cast<QWidget*>(new ComparePanel(*w.m_bench)); }},
     };
     // clang-format on
     return kRows;

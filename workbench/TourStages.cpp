@@ -8,6 +8,7 @@
 #include "workbench/Snapshot.h"
 #include "workbench/TableBench.h"
 #include "workbench/TaskDialogs.h"
+#include "workbench/WhyPanel.h"
 
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
@@ -152,6 +153,8 @@ Stage stageWindow(const WindowStop& stop, const HostData& data)
     hostCall(*table, calls::kSetExpandItemsHidden, false);
     hostCall(*table, calls::kSelectPrice, ttservice::PRTP_BUY1);
     hostCall(*table, calls::kSetFixedPrice, 10.23);
+    if (auto* why = workbench.findChild<WhyPanel*>())
+        why->choose(TC::OCF_TailMinVolume);
     settle();
     return stage;
 }

@@ -72,6 +72,10 @@ constexpr std::array kWindowStops = {
     WindowStop{"window-host-zh",        "zh_CN", "setupDock",    1,  1180, 1160},
     WindowStop{"window-recorder",       "en",    "recorderDock", 1,  1180, 760},
     WindowStop{"window-recorder-small", "zh_CN", "recorderDock", 1,  1024, 700},
+    WindowStop{"window-why",            "en",    "whyDock",      1,  1180, 760},
+    WindowStop{"window-why-small",      "zh_CN", "whyDock",      1,  1024, 700},
+    WindowStop{"window-compare",        "en",    "compareDock",  1,  1180, 760},
+    WindowStop{"window-compare-small",  "zh_CN", "compareDock",  1,  1024, 700},
 };
 
 // clang-format on

@@ -38,5 +38,12 @@
             <numerusform>%n steps answered otherwise.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n difference</numerusform>
+            <numerusform>%n differences</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>
