@@ -1,14 +1,12 @@
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 
 #include "reference/toolkit/Resources.h"
-#include "reference/toolkit/cells/TextCache.h"
 #include "reference/toolkit/editors/CellInteraction.h"
 
 #include <QAbstractButton>
 #include <QHeaderView>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
@@ -20,25 +18,6 @@ namespace {
 double tableScale(bool fontScale)
 {
     return fontScale ? resources::scale() : 1.0;
-}
-
-struct HeaderSections : QHeaderView
-{
-    using QHeaderView::initializeSections;
-};
-
-// Gives the header @p count sections, all of its default size, without a model to ask. A layout that it still owes
-// would take them away again, and asking for its length makes it pay.
-void takeSections(QHeaderView& header, int count)
-{
-    const QSignalBlocker quiet(&header);
-    header.length();
-    if (header.count() == count)
-        return;
-    if (count > 0)
-        (header.*static_cast<void (QHeaderView::*)(int, int)>(&HeaderSections::initializeSections))(0, count - 1);
-    else
-        header.reset();
 }
 
 } // namespace
@@ -105,13 +84,6 @@ void CMultiParamsTablePrivate::connectModel()
     // A header that is polished anew asks the model that it lacks.
     for (QHeaderView* one : {header, m_table->verticalHeader()})
         QObject::connect(one, &QHeaderView::sectionCountChanged, m_table, [this] { placeSections(); });
-}
-
-void CMultiParamsTablePrivate::placeSections()
-{
-    takeSections(*m_table->horizontalHeader(), m_model->columnCount());
-    takeSections(*m_table->verticalHeader(), m_model->rowCount());
-    placeColumns();
 }
 
 CellInteraction& CMultiParamsTablePrivate::interaction()
@@ -185,39 +157,6 @@ int CMultiParamsTablePrivate::contentHeight() const
     return m_model->shownCount() * m_metrics.rowHeight + (m_footerVisible ? m_metrics.footerHeight : 0);
 }
 
-int CMultiParamsTablePrivate::labelColumn() const
-{
-    if (m_hostColumn >= 0)
-        return m_hostColumn;
-    if (m_widestLabel < 0) {
-        m_widestLabel = 0;
-        for (int i = 0; i < m_model->cellCount(); ++i) {
-            const QString label = texts::oneLine(m_model->itemAt(i)->cell()->label());
-            m_widestLabel = std::max(m_widestLabel, texts::width(label, *m_metrics.face));
-        }
-    }
-    // A label of any length leaves the values a third of the row.
-    return std::min(m_metrics.padding + m_widestLabel, m_table->viewport()->width() * 2 / 3);
-}
-
-void CMultiParamsTablePrivate::takeRowHeight()
-{
-    QHeaderView* const rows = m_table->verticalHeader();
-    const QSignalBlocker quiet(rows);
-    rows->setDefaultSectionSize(m_metrics.rowHeight);
-}
-
-void CMultiParamsTablePrivate::placeColumns()
-{
-    QHeaderView* header = m_table->horizontalHeader();
-    const QSignalBlocker quiet(header);
-    const int label = labelColumn();
-    if (header->sectionSize(CellModel::LabelColumn) != label)
-        m_table->viewport()->update();
-    header->resizeSection(CellModel::LabelColumn, label);
-    header->resizeSection(CellModel::ValueColumn, std::max(0, m_table->viewport()->width() - label));
-}
-
 // In an area that leaves its widget the size it has, a table whose height nobody fixed would stay as high as it was
 // before it had cells.
 void CMultiParamsTablePrivate::takeNeededHeight()
@@ -242,12 +181,6 @@ void CMultiParamsTablePrivate::layout()
     scroll->setRange(0, std::max(0, contentHeight() - height));
     if (m_interaction)
         m_interaction->relayout();
-}
-
-void CMultiParamsTablePrivate::labelsChanged()
-{
-    m_widestLabel = -1;
-    placeColumns();
 }
 
 void CMultiParamsTablePrivate::setFontScale(bool fontScale)
