@@ -5,6 +5,7 @@
 #include "workbench/Vocabulary.h"
 
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 
 namespace workbench {
@@ -45,6 +46,9 @@ void QuoteLadder::fitColumnsToFont()
     const int margin = fontMetrics().height();
     setColumnWidth(QuoteModel::Level, fontMetrics().horizontalAdvance(QStringLiteral("卖⑤价")) + margin);
     setColumnWidth(QuoteModel::Price, fontMetrics().horizontalAdvance(QStringLiteral("1000000.00")) + margin);
+    // What a window is higher than its parts need goes to those with more to show.
+    const int rows = QuoteModel::kLevels * verticalHeader()->defaultSectionSize();
+    setMaximumHeight(horizontalHeader()->sizeHint().height() + rows + 2 * frameWidth());
 }
 
 void QuoteLadder::keyPressEvent(QKeyEvent* event)

@@ -101,6 +101,7 @@ QCheckBox* SetupForm::addCheck(const char* label)
 void SetupForm::addModules()
 {
     m_modules->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_modules->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_modules->setTextElideMode(Qt::ElideMiddle);
     m_modules->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const char* path : featureModules()) {
