@@ -1,6 +1,9 @@
 #include "reference/toolkit/AccessibleTable.h"
 
+#include "reference/toolkit/AccessibleFooter.h"
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
+#include "reference/toolkit/editors/CellInteraction.h"
+#include "reference/toolkit/editors/ChoicePopup.h"
 
 #include <QAccessibleWidget>
 #include <QMap>
@@ -11,6 +14,21 @@ namespace WQ {
 namespace {
 
 constexpr int kColumns = CellModel::ValueColumn + 1;
+
+// The key of the footer among the cells: no cell has it as its column.
+constexpr int kFooter = kColumns;
+
+bool hasFooterFocus(const CMultiParamsTable& table)
+{
+    const CellInteraction* interaction = CMultiParamsTablePrivate::of(&table)->interactionIfAny();
+    return interaction && interaction->footerState().focus;
+}
+
+bool isListOpen(const CMultiParamsTable& table)
+{
+    const auto* list = table.findChild<ChoicePopup*>(QString(), Qt::FindDirectChildrenOnly);
+    return list && list->isVisible();
+}
 
 /// A row's label or value. It stands for the cell's ID, so that it stays with its cell when other rows come and go.
 class AccessibleTableCell : public QAccessibleInterface
@@ -104,6 +122,8 @@ public:
     }
 
 private:
+    void addKindState(QAccessible::State& state) const;
+
     QModelIndex index() const
     {
         return model().index(model().rowOf(m_id), m_column);
@@ -134,8 +154,25 @@ QAccessible::State AccessibleTableCell::state() const
     state.editable = !state.disabled && (flags & Qt::ItemIsEditable);
     state.readOnly = !state.editable;
     state.focusable = !state.disabled;
-    state.focused = m_table->hasFocus() && m_table->currentIndex().row() == index().row();
+    const bool isCurrent = m_table->currentIndex().row() == index().row();
+    state.focused = m_table->hasFocus() && isCurrent && !hasFooterFocus(*m_table);
+    addKindState(state);
     return state;
+}
+
+// What the cell offers beside its text: a list of entries or units, a box to tick.
+void AccessibleTableCell::addKindState(QAccessible::State& state) const
+{
+    const CellItem& cell = *model().cell(m_id);
+    if (cell.hasChevron()) {
+        const bool isCurrent = m_table->currentIndex().row() == index().row();
+        state.hasPopup = true;
+        state.expandable = true;
+        state.expanded = isCurrent && isListOpen(*m_table);
+        state.collapsed = !state.expanded;
+    }
+    state.checkable = cell.kind() == CellKind::CheckNumber;
+    state.checked = cell.isChecked();
 }
 
 class AccessibleTable : public QAccessibleWidget
@@ -154,11 +191,13 @@ public:
 
     int childCount() const override
     {
-        return model().rowCount() * kColumns;
+        return footerChild() + (CMultiParamsTablePrivate::of(table())->isFooterVisible() ? 1 : 0);
     }
 
     QAccessibleInterface* child(int number) const override
     {
+        if (number == footerChild() && number < childCount())
+            return footer();
         const CellItem* const cell = number < 0 ? nullptr : model().cellAtRow(number / kColumns);
         if (!cell)
             return nullptr;
@@ -172,18 +211,24 @@ public:
 
     QAccessibleInterface* childAt(int x, int y) const override
     {
+        if (footer()->rect().contains(x, y))
+            return footer();
         const QModelIndex index = table()->indexAt(table()->viewport()->mapFromGlobal(QPoint(x, y)));
         return index.isValid() ? child(accessibleChild(index.row(), index.column())) : nullptr;
     }
 
     QAccessibleInterface* focusChild() const override
     {
+        if (table()->hasFocus() && hasFooterFocus(*table()))
+            return footer();
         const int row = table()->currentIndex().row();
         return table()->hasFocus() && row >= 0 ? child(accessibleChild(row, CellModel::ValueColumn)) : nullptr;
     }
 
     int indexOfChild(const QAccessibleInterface* wanted) const override
     {
+        if (dynamic_cast<const AccessibleFooter*>(wanted))
+            return childCount() > footerChild() ? footerChild() : -1;
         const auto* const cell = dynamic_cast<const AccessibleTableCell*>(wanted);
         const int row = cell ? model().rowOf(cell->id()) : -1;
         return row < 0 ? -1 : accessibleChild(row, cell->column());
@@ -200,6 +245,19 @@ private:
         return CMultiParamsTablePrivate::of(table())->model();
     }
 
+    int footerChild() const
+    {
+        return model().rowCount() * kColumns;
+    }
+
+    QAccessibleInterface* footer() const
+    {
+        QAccessible::Id& known = m_cells[{0, kFooter}];
+        if (known == 0)
+            known = QAccessible::registerAccessibleInterface(new AccessibleFooter(table()));
+        return QAccessible::accessibleInterface(known);
+    }
+
     mutable QMap<QPair<int, int>, QAccessible::Id> m_cells; // by cell and column
 };
 
@@ -214,6 +272,31 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 int accessibleChild(int row, int column)
 {
     return row * kColumns + column;
+}
+
+void announceAccessibleFocus(CMultiParamsTable& table)
+{
+    if (!QAccessible::isActive() || !table.hasFocus())
+        return;
+    const int row = table.currentIndex().row();
+    if (!hasFooterFocus(table) && row < 0)
+        return;
+    QAccessibleEvent focus(&table, QAccessible::Focus);
+    focus.setChild(hasFooterFocus(table) ? accessibleChild(table.model()->rowCount(), 0)
+                                         : accessibleChild(row, CellModel::ValueColumn));
+    QAccessible::updateAccessibility(&focus);
+}
+
+void announceAccessibleValues(CMultiParamsTable& table, int first, int last)
+{
+    if (!QAccessible::isActive() || !table.isVisible())
+        return;
+    for (int row = first; row <= last; ++row) {
+        const QModelIndex value = table.model()->index(row, CellModel::ValueColumn);
+        QAccessibleValueChangeEvent change(&table, value.data());
+        change.setChild(accessibleChild(row, CellModel::ValueColumn));
+        QAccessible::updateAccessibility(&change);
+    }
 }
 
 void makeTablesAccessible()

@@ -41,6 +41,8 @@ int CDropDownButtonGroup::addButton(CPushButton* button, EWidgetAnchor anchor)
         button->setParent(this);
     button->setCheckable(true);
     d->exclusive->addButton(button);
+    // The group rules; this says to assistive programs that it is one of several.
+    button->setAutoExclusive(true);
     d->entries.push_back({button, button, anchor, shown});
     d->layOut();
     updateGeometry();

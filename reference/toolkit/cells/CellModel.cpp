@@ -13,8 +13,10 @@ const QEvent::Type kFlushEvent = static_cast<QEvent::Type>(QEvent::registerEvent
 
 QString shownText(const CellItem& cell)
 {
+    const QString value = cell.displayText();
     const QString unit = cell.unit();
-    return unit.isEmpty() ? cell.displayText() : cell.displayText() + QLatin1Char(' ') + unit;
+    const bool areBoth = !value.isEmpty() && !unit.isEmpty();
+    return areBoth ? value + QLatin1Char(' ') + unit : value + unit;
 }
 
 } // namespace

@@ -677,8 +677,13 @@ void CDropDownButtonGroupTest::itsButtonsAreAccessible()
     QCOMPARE(help->text(QAccessible::Name), QStringLiteral("帮助"));
     g.group->setCheckedByID(601);
     QAccessibleInterface* button = QAccessible::queryAccessibleInterface(g.button(601));
-    QVERIFY(button->state().checked);
+    QCOMPARE(button->role(), QAccessible::RadioButton);
+    QVERIFY(button->state().checkable && button->state().checked && button->state().focusable);
     QCOMPARE(button->text(QAccessible::Name), QStringLiteral("按钮601"));
+    g.button(601)->setEnabled(false);
+    QVERIFY(button->state().disabled);
+    QAccessibleInterface* other = QAccessible::queryAccessibleInterface(g.button(602));
+    QVERIFY(other->state().checkable && !other->state().checked);
 }
 
 QTEST_MAIN(CDropDownButtonGroupTest)

@@ -500,6 +500,7 @@ void CParameterCellTest::itIsAccessible()
     QCOMPARE(access->role(), QAccessible::EditableText);
     QCOMPARE(access->text(QAccessible::Name), QStringLiteral("基准价"));
     QCOMPARE(access->text(QAccessible::Value), QStringLiteral("10.230"));
+    QVERIFY(access->state().editable && !access->state().readOnly);
     QVERIFY(!access->state().readOnly);
     c.cell->setEnabled(false);
     QVERIFY(access->state().readOnly);

@@ -306,7 +306,8 @@ void ResourcesTest::aHostAddsThemesOfItsOwn()
     write(folder.filePath(QStringLiteral("light.json")), darkFile());
     resources::addThemeFolder(folder.path());
     QCOMPARE(resources::themes(),
-             (QStringList{QStringLiteral("dark"), QStringLiteral("light"), QStringLiteral("night")}));
+             (QStringList{QStringLiteral("dark"), QStringLiteral("high-contrast"), QStringLiteral("light"),
+                          QStringLiteral("night")}));
     QVERIFY(resources::setTheme(QStringLiteral("night")));
     QCOMPARE(resources::color(keys::kWindow).name(), QStringLiteral("#000000"));
     // A compiled-in theme keeps precedence over a file of its name.
