@@ -96,19 +96,9 @@ CellInteraction& CMultiParamsTablePrivate::interaction()
 int CMultiParamsTablePrivate::add(std::unique_ptr<CMultiParamsTableItem> item)
 {
     const int position = m_model->add(std::move(item));
-    if (position < 0)
-        return position;
-    m_widestLabel = -1;
-    m_initial.push_back(initialOf(*m_model->itemAt(position)->cell()));
+    if (position >= 0)
+        m_widestLabel = -1;
     return position;
-}
-
-const InitialValue& CMultiParamsTablePrivate::initialValue(const CellItem& cell) const
-{
-    size_t position = 0;
-    while (m_model->itemAt(static_cast<int>(position))->cell() != &cell)
-        ++position;
-    return m_initial[position];
 }
 
 int CMultiParamsTablePrivate::rowTop(int row) const

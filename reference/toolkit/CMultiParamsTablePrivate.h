@@ -6,7 +6,6 @@
 #include "reference/toolkit/cells/NumberCell.h"
 #include "reference/toolkit/cells/RowLayout.h"
 #include "reference/toolkit/cells/ValueCells.h"
-#include "reference/toolkit/editors/InitialValue.h"
 
 #include <WQ/CMultiParamsTable.h>
 
@@ -95,9 +94,6 @@ public:
     CellItem* currentCell() const;
     void setCurrentCell(const CellItem& cell);
 
-    /// What a cell of this table was added with.
-    const InitialValue& initialValue(const CellItem& cell) const;
-
     /// Repaints one row.
     void update(const CellItem& cell);
     void updateFooter();
@@ -184,7 +180,6 @@ private:
     CellModel* const m_model;
     std::unique_ptr<CellInteraction> m_interaction;
     RowMetrics m_metrics;
-    std::vector<InitialValue> m_initial; // by position
     std::vector<PaintedValue> m_painted; // by row
     mutable int m_widestLabel = -1;      // -1: not measured
     int m_hostColumn = -1;               // -1: the host has set no width

@@ -23,8 +23,8 @@ class CMultiParamsTablePrivate;
 ///
 /// Programmatic changes send no events. What a person commits is stored first; its event goes out when Qt's own handler
 /// has unwound, from this table: 73 combo changed, 87 number or range, 118 unit or check, 101 period, 102 line,
-/// 97 double click, 124 and 248 filter applied and reset.
-///
+/// 97 double click (not while the cells are disabled), 124 and 248 filter applied and reset. A person may also paste a
+/// value, and go back to the value, unit and check a cell was added with: with events as of a commit.
 /// A missing ID answers 0, an empty text, an invalid QVariant or a null item; setting it does nothing.
 class WQ_EXPORT CMultiParamsTable : public CEventWidgetT<QTableView>, public CUiResourceChangeHandler
 {

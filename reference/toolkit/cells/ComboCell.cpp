@@ -45,6 +45,8 @@ ComboCell::ComboCell(int id, QString label, QStringList texts, QVector<QVariant>
 {
     if (m_current < 0 || m_current >= count())
         m_current = -1;
+    else
+        m_initial = m_values.at(m_current);
 }
 
 int ComboCell::count() const

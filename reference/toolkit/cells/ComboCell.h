@@ -23,6 +23,12 @@ public:
         return m_current;
     }
 
+    /// The value it was made with; invalid when none was chosen.
+    const QVariant& initialData() const
+    {
+        return m_initial;
+    }
+
     /// An index outside the list chooses none.
     bool setCurrentIndex(int index);
 
@@ -46,6 +52,7 @@ private:
     // Shared with every other table that shows the same entries.
     QStringList m_texts;
     QVector<QVariant> m_values;
+    QVariant m_initial;
     int m_current;
 };
 

@@ -22,6 +22,7 @@ NumberCell::NumberCell(int id, QString label, QVector<NumberUnit> units, double 
     , m_value(std::isnan(value) ? 0 : value)
 {
     bound();
+    m_initial = m_value;
 }
 
 NumberCell::NumberCell(int id, QString label, QString checkText, bool checked, QVector<NumberUnit> units, double value)
@@ -30,8 +31,10 @@ NumberCell::NumberCell(int id, QString label, QString checkText, bool checked, Q
     , m_checkText(std::move(checkText))
     , m_value(std::isnan(value) ? 0 : value)
     , m_checked(checked)
+    , m_initiallyChecked(checked)
 {
     bound();
+    m_initial = m_value;
 }
 
 bool NumberCell::bound()

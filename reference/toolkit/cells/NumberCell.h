@@ -32,6 +32,17 @@ public:
         return m_current;
     }
 
+    /// What it was made with, in the first of its units.
+    double initialNumber() const
+    {
+        return m_initial;
+    }
+
+    bool isInitiallyChecked() const
+    {
+        return m_initiallyChecked;
+    }
+
     /// Makes that unit current, keeps the number and bounds it into the unit's range.
     bool setCurrentUnit(int index);
 
@@ -66,8 +77,10 @@ private:
     QVector<NumberUnit> m_units;
     QString m_checkText;
     double m_value;
+    double m_initial;
     int m_current = 0;
     bool m_checked = false;
+    bool m_initiallyChecked = false;
 };
 
 } // namespace WQ

@@ -48,6 +48,8 @@ PeriodCell::PeriodCell(int id, QString label, QTime start, QTime end)
     : CellItem(CellKind::TimePeriod, id, std::move(label))
     , m_start(validTime(start))
     , m_end(validTime(end))
+    , m_initialStart(m_start)
+    , m_initialEnd(m_end)
 {
 }
 

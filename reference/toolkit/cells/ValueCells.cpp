@@ -27,6 +27,8 @@ RangeCell::RangeCell(int id, QString label, NumberUnit unit, double low, double 
     , m_separator(std::move(separator))
     , m_low(boundedNumber(m_unit, std::isnan(low) ? 0 : low))
     , m_high(std::max(m_low, boundedNumber(m_unit, std::isnan(high) ? 0 : high)))
+    , m_initialLow(m_low)
+    , m_initialHigh(m_high)
 {
 }
 
@@ -147,6 +149,7 @@ QString RangeCell::offGridText() const
 LineCell::LineCell(int id, QString label, QString text, QString pattern, QString placeholder)
     : CellItem(CellKind::Line, id, std::move(label))
     , m_text(std::move(text))
+    , m_initial(m_text)
     , m_pattern(std::move(pattern))
     , m_placeholder(std::move(placeholder))
 {

@@ -26,6 +26,12 @@ public:
         return m_high;
     }
 
+    /// What it was made with.
+    QPair<double, double> initialRange() const
+    {
+        return {m_initialLow, m_initialHigh};
+    }
+
     const QString& separator() const
     {
         return m_separator;
@@ -69,6 +75,8 @@ private:
     QString m_separator;
     double m_low;
     double m_high;
+    const double m_initialLow;
+    const double m_initialHigh;
 };
 
 /// A period: from one time of day to another (a clock range), or a length of time (a duration).
@@ -86,6 +94,12 @@ public:
     QTime end() const
     {
         return m_end;
+    }
+
+    /// The clock range it was made with.
+    QPair<QTime, QTime> initialClock() const
+    {
+        return {m_initialStart, m_initialEnd};
     }
 
     EWqTimeRangeType rangeType() const
@@ -114,6 +128,8 @@ public:
 private:
     QTime m_start;
     QTime m_end;
+    const QTime m_initialStart;
+    const QTime m_initialEnd;
     int m_duration = 0;
     EWqTimeRangeType m_type = TimeRangeClock;
 };
@@ -127,6 +143,12 @@ public:
     const QString& pattern() const
     {
         return m_pattern;
+    }
+
+    /// What it was made with.
+    const QString& initialText() const
+    {
+        return m_initial;
     }
 
     const QString& placeholder() const
@@ -145,6 +167,7 @@ public:
 
 private:
     QString m_text;
+    const QString m_initial;
     QString m_pattern;
     QString m_placeholder;
 };

@@ -68,7 +68,7 @@ bool CellInteraction::isPossible(CellCommand command, const CellItem& cell) cons
     case CellCommand::Paste:
         return canEdit(cell) && !clipboardText().isEmpty();
     case CellCommand::Initial:
-        return canEdit(cell) && !holdsInitial(cell, m_table.initialValue(cell));
+        return canEdit(cell) && !holdsInitial(cell);
     }
     return false;
 }
@@ -117,10 +117,9 @@ void CellInteraction::restoreInitial(CellItem& cell)
 {
     if (!readyForCommit(cell))
         return;
-    const InitialValue& initial = m_table.initialValue(cell);
-    const Judgement judgement = judgeInitial(cell, initial);
+    const Judgement judgement = judgeInitial(cell);
     if (judgement.ok)
-        commits::initial(widget(), cell, initial);
+        commits::initial(widget(), cell);
     else
         refuse(cell, judgement.message);
 }

@@ -72,23 +72,27 @@ InitialValue initialOf(const CellItem& cell)
 {
     switch (cell.kind()) {
     case CellKind::Combo:
-        return {cell.data(), 0, false};
+        return {asCombo(cell).initialData(), 0, false};
     case CellKind::Number:
     case CellKind::CheckNumber:
-        return {cell.number(), 0, cell.isChecked()};
+        return {asNumber(cell).initialNumber(), 0, asNumber(cell).isInitiallyChecked()};
     case CellKind::Range:
-        return {asRange(cell).low(), asRange(cell).high(), false};
-    case CellKind::TimePeriod:
-        return {secondsOf(asPeriod(cell).start()), double(secondsOf(asPeriod(cell).end())), false};
+        return {asRange(cell).initialRange().first, asRange(cell).initialRange().second, false};
+    case CellKind::TimePeriod: {
+        const auto [start, end] = asPeriod(cell).initialClock();
+        return {secondsOf(start), double(secondsOf(end)), false};
+    }
     case CellKind::Line:
+        return {static_cast<const LineCell&>(cell).initialText(), 0, false};
     case CellKind::Text:
-        return {cell.text(), 0, false};
+        return {QString(), 0, false};
     }
     return {};
 }
 
-bool holdsInitial(const CellItem& cell, const InitialValue& initial)
+bool holdsInitial(const CellItem& cell)
 {
+    const InitialValue initial = initialOf(cell);
     switch (cell.kind()) {
     case CellKind::Combo:
         return !initial.value.isValid() || asCombo(cell).indexOfData(initial.value) == asCombo(cell).currentIndex();
@@ -108,8 +112,9 @@ bool holdsInitial(const CellItem& cell, const InitialValue& initial)
     return true;
 }
 
-Judgement judgeInitial(const CellItem& cell, const InitialValue& initial)
+Judgement judgeInitial(const CellItem& cell)
 {
+    const InitialValue initial = initialOf(cell);
     if (cell.kind() == CellKind::Combo)
         return judgeInitialChoice(asCombo(cell), initial.value);
     if (isNumber(cell))
@@ -124,8 +129,9 @@ Judgement judgeInitial(const CellItem& cell, const InitialValue& initial)
     return judgement;
 }
 
-bool storeInitial(CellItem& cell, const InitialValue& initial)
+bool storeInitial(CellItem& cell)
 {
+    const InitialValue initial = initialOf(cell);
     switch (cell.kind()) {
     case CellKind::Combo:
         return false;

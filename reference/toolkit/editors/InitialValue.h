@@ -17,17 +17,17 @@ struct InitialValue
     bool checked = false;
 };
 
-/// @p cell has just been added.
+/// A text cell begins empty.
 WQ_EXPORT InitialValue initialOf(const CellItem& cell);
 
 /// Whether value, unit and check are what the cell was added with. A combo without a choice at first has no way back.
-WQ_EXPORT bool holdsInitial(const CellItem& cell, const InitialValue& initial);
+WQ_EXPORT bool holdsInitial(const CellItem& cell);
 
 /// Whether the cell can hold it still: limits and entries may be others by now.
-WQ_EXPORT Judgement judgeInitial(const CellItem& cell, const InitialValue& initial);
+WQ_EXPORT Judgement judgeInitial(const CellItem& cell);
 
 /// Takes the value and answers whether the cell holds something else now; unit, check and a combo's choice are the
 /// caller's.
-WQ_EXPORT bool storeInitial(CellItem& cell, const InitialValue& initial);
+WQ_EXPORT bool storeInitial(CellItem& cell);
 
 } // namespace WQ

@@ -3,6 +3,7 @@
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 #include "reference/toolkit/PersonEvents.h"
 #include "reference/toolkit/editors/CellFlash.h"
+#include "reference/toolkit/editors/InitialValue.h"
 
 namespace WQ::commits {
 
@@ -95,8 +96,9 @@ void check(CMultiParamsTable& table, CellItem& cell, bool checked)
 }
 
 // The number that the unit leaves on the way is nobody's, so nothing is said of it.
-void initial(CMultiParamsTable& table, CellItem& cell, const InitialValue& initial)
+void initial(CMultiParamsTable& table, CellItem& cell)
 {
+    const InitialValue initial = initialOf(cell);
     if (hasUnits(cell) && static_cast<NumberCell&>(cell).setCurrentUnit(0)) {
         modelOf(table).touch(&cell);
         post(table, UnitOrCheckChanged, cell.id(), 0, cell.unit());
@@ -105,7 +107,7 @@ void initial(CMultiParamsTable& table, CellItem& cell, const InitialValue& initi
     if (cell.kind() == CellKind::Combo) {
         auto& combo = static_cast<ComboCell&>(cell);
         entry(table, combo, combo.indexOfData(initial.value));
-    } else if (storeInitial(cell, initial)) {
+    } else if (storeInitial(cell)) {
         postValue(table, cell);
     }
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "reference/toolkit/editors/EditRules.h"
-#include "reference/toolkit/editors/InitialValue.h"
 
 #include <QSet>
 
@@ -25,8 +24,8 @@ void unit(CMultiParamsTable& table, NumberCell& cell, int index);
 void check(CMultiParamsTable& table, CellItem& cell, bool checked);
 
 /// Unit, check and value that the cell was added with, each with the event of its own when it is another.
-/// @p initial is judged right.
-void initial(CMultiParamsTable& table, CellItem& cell, const InitialValue& initial);
+/// That value is judged right.
+void initial(CMultiParamsTable& table, CellItem& cell);
 
 void doubleClick(CMultiParamsTable& table, const CellItem& cell);
 
