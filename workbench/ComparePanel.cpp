@@ -108,7 +108,7 @@ void ComparePanel::createBar(QVBoxLayout& column)
     bar->addWidget(exportButton);
     column.addLayout(bar);
     m_texts->keep([this, copyButton, exportButton] {
-        m_differencesOnly->setText(translated(QT_TRANSLATE_NOOP("workbench", "&Differences only")));
+        m_differencesOnly->setText(translated(QT_TRANSLATE_NOOP("workbench", "Differences only")));
         copyButton->setText(translated(QT_TRANSLATE_NOOP("workbench", "Copy")));
         exportButton->setText(translated(QT_TRANSLATE_NOOP("workbench", "Export…")));
         exportButton->setToolTip(

@@ -79,7 +79,7 @@ void WhyPanel::createBar()
     m_texts->keep([this, copy] {
         m_choice->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Cell")));
         m_choice->setToolTip(translated(QT_TRANSLATE_NOOP("workbench", "Any cell, shown or not")));
-        m_follow->setText(translated(QT_TRANSLATE_NOOP("workbench", "&Follow the panel's row")));
+        m_follow->setText(translated(QT_TRANSLATE_NOOP("workbench", "Follow the panel's row")));
         copy->setText(translated(QT_TRANSLATE_NOOP("workbench", "Copy")));
     });
     connect(m_choice, QOverload<int>::of(&QComboBox::activated), this,
@@ -170,7 +170,7 @@ void WhyPanel::explain()
     m_model->explain(table, cell);
     const WhyStep& step = decisiveStep(m_model->steps());
     m_answer->setText(
-        QStringLiteral("%1: %2. %3: %4")
+        QCoreApplication::translate("workbench", "%1: %2. %3: %4")
             .arg(whyCellName(m_cell), whyCellState(cell), whyRuleName(step.rule), whyValue(step, table, cell)));
     fitColumns(*m_view);
     m_view->scrollTo(m_model->index(int(step.rule), WhyModel::Rule));

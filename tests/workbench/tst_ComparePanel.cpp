@@ -86,7 +86,7 @@ void tst_ComparePanel::differencesAloneAreShownOnDemand()
     panel.compare(setupOf(2), setupOf(6));
     const QAbstractItemModel& shown = *panel.findChild<HostTable*>()->model();
     QCOMPARE(shown.rowCount(), panel.model()->rowCount());
-    QTest::keyClick(reading<QCheckBox>(panel, "&Differences only"), Qt::Key_Space);
+    QTest::keyClick(reading<QCheckBox>(panel, "Differences only"), Qt::Key_Space);
     QCOMPARE(shown.rowCount(), panel.model()->differences());
     QVERIFY(shown.rowCount() > 0 && shown.rowCount() < panel.model()->rowCount());
     for (int row = 0; row < shown.rowCount(); ++row)
@@ -179,7 +179,7 @@ void tst_ComparePanel::copyTakesTheRowsThatAreShown()
     ComparePanel panel(bench);
     panel.show();
     panel.compare(setupOf(2), setupOf(6));
-    reading<QCheckBox>(panel, "&Differences only")->setChecked(true);
+    reading<QCheckBox>(panel, "Differences only")->setChecked(true);
     QTest::keyClick(panel.findChild<HostTable*>(), Qt::Key_C, Qt::ControlModifier);
     const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), panel.model()->differences() + 1);

@@ -1034,12 +1034,12 @@ A host for every table and dialog of the library.</source>
         <translation>开启 %1 个</translation>
     </message>
     <message>
-        <source>&amp;Differences only</source>
-        <translation>仅显示差异(&amp;D)</translation>
+        <source>Differences only</source>
+        <translation>仅显示差异</translation>
     </message>
     <message>
-        <source>&amp;Follow the panel&apos;s row</source>
-        <translation>跟随面板当前行(&amp;F)</translation>
+        <source>Follow the panel&apos;s row</source>
+        <translation>跟随面板当前行</translation>
     </message>
     <message>
         <source>Any cell, shown or not</source>
@@ -1394,6 +1394,10 @@ A host for every table and dialog of the library.</source>
         <translation>
             <numerusform>%n 处差异</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2. %3: %4</source>
+        <translation>%1：%2。%3：%4</translation>
     </message>
 </context>
 </TS>
