@@ -3,6 +3,8 @@
 #include "workbench/LanguageTexts.h"
 #include "workbench/NumberCombo.h"
 
+#include <TC/CTimeService.h>
+
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QDateTimeEdit>
@@ -30,6 +32,13 @@ constexpr std::array kClientModes = {
 };
 // clang-format on
 
+/// The time of the host's clock; the system's where there is none.
+QDateTime timeOfClock()
+{
+    const TC::CTimeService* clock = TC::getTimeService();
+    return clock ? QDateTime::fromSecsSinceEpoch(clock->currentTime()) : QDateTime::currentDateTime();
+}
+
 } // namespace
 
 HostForm::HostForm(QWidget* parent)
@@ -38,7 +47,7 @@ HostForm::HostForm(QWidget* parent)
     , m_form(new QFormLayout(this))
     , m_mode(new NumberCombo({kClientModes.data(), static_cast<int>(kClientModes.size())}, 0))
     , m_isFrozen(new QCheckBox)
-    , m_time(new QDateTimeEdit(QDateTime::currentDateTime()))
+    , m_time(new QDateTimeEdit(timeOfClock()))
     , m_step(new QSpinBox)
 {
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -79,7 +88,11 @@ void HostForm::addClock()
         m_step->setSuffix(translated(QT_TRANSLATE_NOOP("workbench", " s")));
         advance->setText(translated(QT_TRANSLATE_NOOP("workbench", "Advance")));
     });
-    connect(m_isFrozen, &QCheckBox::toggled, this, [this] {
+    connect(m_isFrozen, &QCheckBox::toggled, this, [this](bool frozen) {
+        if (frozen) {
+            const QSignalBlocker calm(m_time);
+            m_time->setDateTime(timeOfClock());
+        }
         followFreeze();
         Q_EMIT clockChosen();
     });

@@ -25,6 +25,7 @@ QuotePanel::QuotePanel(QWidget* parent)
     auto* bar = new QHBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    layout->setSizeConstraint(QLayout::SetMinAndMaxSize);
     bar->setContentsMargins(8, 4, 8, 4);
     bar->addWidget(m_running, 1);
     bar->addWidget(m_rate);

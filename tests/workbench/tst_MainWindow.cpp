@@ -3,9 +3,12 @@
 #include "workbench/EventLogModel.h"
 #include "workbench/EventPanel.h"
 #include "workbench/HostCalls.h"
+#include "workbench/HostForm.h"
 #include "workbench/Language.h"
 #include "workbench/MainWindow.h"
+#include "workbench/NumberCombo.h"
 #include "workbench/SetupForm.h"
+#include "workbench/StateFile.h"
 #include "workbench/TableBench.h"
 #include "workbench/TaskPanel.h"
 
@@ -15,10 +18,17 @@
 #include <OrderParamTable_mini/tables/CBaseTaskParamWidget.h>
 #include <OrderParamTable_mini/tables/CHpfBasketTaskParamWidget.h>
 
+#include <TC/CTimeService.h>
+#include <TC/CUserConfig.h>
+
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QDateTimeEdit>
+#include <QDockWidget>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSettings>
@@ -42,6 +52,10 @@ private Q_SLOTS:
     void themeScaleAndLanguageChangeAtOnce();
     void choicesAreBackAfterARestart();
     void aBrokenStateFileIsNoObstacle();
+    void aCommitIsOnDiskInTheNextPass();
+    void anotherTableAndBackIsAsItWasLeft();
+    void clientModeAndClockAreLive();
+    void everyPartIsReachedByTheKeysInTheMenu();
     void aTaskOpensItsDialog();
     void aDoubleClickOnATaskOpensItsDialog();
     void aBasketOpensOnTheSelectedTasks();
@@ -169,6 +183,80 @@ void tst_MainWindow::aBrokenStateFileIsNoObstacle()
     window.loadState();
     QCOMPARE(int(window.bench()->table()->getId()), 5);
     QCOMPARE(window.form()->setup().brokerType, 6);
+}
+
+void tst_MainWindow::aCommitIsOnDiskInTheNextPass()
+{
+    MainWindow window({});
+    window.loadState();
+    QCoreApplication::processEvents();
+    window.chooseTheme(QStringLiteral("light"));
+    QCoreApplication::processEvents();
+    QCOMPARE(savedLook().theme, QStringLiteral("light"));
+}
+
+void tst_MainWindow::anotherTableAndBackIsAsItWasLeft()
+{
+    MainWindow window({});
+    window.loadState();
+    const auto cells = [&window] { return window.bench()->table()->getMultiParamsTable(); };
+    const QString initial = cells()->itemText(TC::OCF_SuperPrice);
+    hostCall(*window.bench()->table(), calls::kSetOrderType, ttservice::ORDER_TYPE_ALGORITHM);
+    cells()->setItemText(TC::OCF_SuperPrice, QStringLiteral("0.12"));
+    QVERIFY(initial != QStringLiteral("0.12"));
+    auto* identity = window.form()->findChild<NumberCombo*>();
+    identity->setEditText(QStringLiteral("31"));
+    Q_EMIT identity->lineEdit()->editingFinished();
+    QTRY_COMPARE(int(window.bench()->table()->getId()), 31);
+    QCOMPARE(cells()->itemText(TC::OCF_SuperPrice), initial);
+    identity->setEditText(QStringLiteral("5"));
+    Q_EMIT identity->lineEdit()->editingFinished();
+    QTRY_COMPARE(int(window.bench()->table()->getId()), 5);
+    QCOMPARE(cells()->itemText(TC::OCF_SuperPrice), QStringLiteral("0.12"));
+    QCOMPARE(int(window.bench()->table()->orderType()), 1);
+    window.rebuildTable();
+    QCOMPARE(cells()->itemText(TC::OCF_SuperPrice), initial);
+}
+
+void tst_MainWindow::clientModeAndClockAreLive()
+{
+    MainWindow window({});
+    auto* host = window.findChild<HostForm*>();
+    Q_EMIT host->clientModeChosen(101);
+    QCOMPARE(TC::getUserConfig()->clientMode(), 101);
+    host->findChild<QCheckBox*>()->click();
+    auto* time = host->findChild<QDateTimeEdit*>();
+    time->setDateTime(QDateTime::fromSecsSinceEpoch(1716168600));
+    QCOMPARE(TC::getTimeService()->currentTime(), qint64(1716168600));
+    host->findChild<QPushButton*>()->click();
+    QCOMPARE(TC::getTimeService()->currentTime(), qint64(1716168660));
+    host->findChild<QCheckBox*>()->click();
+    QVERIFY(TC::getTimeService()->currentTime() > 1716168660);
+}
+
+void tst_MainWindow::everyPartIsReachedByTheKeysInTheMenu()
+{
+    MainWindow window({});
+    window.resize(1024, 700);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QAction* view = window.menuBar()->actions().at(1);
+    const auto docks = window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    QVERIFY(docks.size() >= 8);
+    for (QDockWidget* dock : docks) {
+        const auto actions = view->menu()->actions();
+        const auto go = std::find_if(actions.begin(), actions.end(), [dock](const QAction* action) {
+            return action->text() == dock->windowTitle() && !action->shortcut().isEmpty();
+        });
+        QVERIFY2(go != actions.end(), qPrintable(dock->windowTitle()));
+        dock->hide();
+        window.bench()->focusTable();
+        const int key = (*go)->shortcut()[0];
+        QTest::keyClick(&window, Qt::Key(key & ~int(Qt::KeyboardModifierMask)),
+                        Qt::KeyboardModifiers(key & int(Qt::KeyboardModifierMask)));
+        QTRY_VERIFY2(dock->isVisible(), qPrintable(dock->windowTitle()));
+        QVERIFY2(dock->isAncestorOf(QApplication::focusWidget()), qPrintable(dock->windowTitle()));
+    }
 }
 
 void tst_MainWindow::aTaskOpensItsDialog()
