@@ -101,6 +101,10 @@ void bringInto(TC::COrderParamBaseTable& table, PanelState state)
         pressKey(&cells, Qt::Key_F2);
         typeInto(cells, QStringLiteral("500000000"));
         return pressKey(focused(cells), Qt::Key_Return);
+    case PanelState::OffGrid:
+        focusCell(cells, QStringLiteral("单笔最大量"));
+        pressKey(&cells, Qt::Key_F2);
+        return typeInto(cells, QStringLiteral("1250"));
     case PanelState::UnitListOpen:
         return openUnits(cells, QStringLiteral("单笔超价"));
     case PanelState::EntryListOpen:

@@ -32,6 +32,7 @@ constexpr std::array kPanelStops = {
     PanelStop{"state-row-focused",                   5, 2, 1, kExpanded,  PanelState::RowFocused},
     PanelStop{"state-editor-open",                   5, 2, 1, kExpanded,  PanelState::EditorOpen},
     PanelStop{"state-wrong-input",                   5, 2, 1, kExpanded,  PanelState::WrongInput},
+    PanelStop{"state-off-grid",                      5, 2, 1, kExpanded,  PanelState::OffGrid},
     PanelStop{"state-unit-list-open",                5, 2, 1, kExpanded,  PanelState::UnitListOpen},
     PanelStop{"state-entry-list-open",               5, 2, 1, kExpanded,  PanelState::EntryListOpen},
     PanelStop{"state-period-editor-open",            5, 2, 1, kExpanded,  PanelState::PeriodEditorOpen},

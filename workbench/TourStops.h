@@ -12,6 +12,7 @@ enum class PanelState {
     RowFocused,
     EditorOpen,
     WrongInput,
+    OffGrid,
     UnitListOpen,
     EntryListOpen,
     PeriodEditorOpen,
