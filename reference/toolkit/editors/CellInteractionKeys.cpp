@@ -1,7 +1,6 @@
 #include "reference/toolkit/editors/CellInteraction.h"
 
 #include "reference/toolkit/AccessibleTable.h"
-#include "reference/toolkit/AccessibleTable.h"
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 #include "reference/toolkit/editors/ChoicePopup.h"
 #include "reference/toolkit/editors/PersonCommits.h"
