@@ -87,7 +87,6 @@ CellMenu::CellMenu(QWidget& owner, const CellItem& cell, CellMenuAnswers answers
     : QMenu(&owner)
     , m_answers(std::move(answers))
 {
-    setAttribute(Qt::WA_DeleteOnClose);
     setStyleSheet(sheet(scale));
     for (const CellCommand command : {CellCommand::CopyValue, CellCommand::CopyCell, CellCommand::CopyAll})
         addCommand(command);

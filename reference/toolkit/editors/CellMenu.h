@@ -30,7 +30,8 @@ struct CellMenuAnswers
     std::function<void(int)> unitChosen; ///< none: the units are shown and cannot be changed
 };
 
-/// The menu of one cell, in the toolkit's look. It is gone when it closes. What does not apply stands in it disabled.
+/// The menu of one cell, in the toolkit's look, as the cell is when it is made. What does not apply stands in it
+/// disabled.
 class WQ_EXPORT CellMenu : public QMenu
 {
     Q_OBJECT

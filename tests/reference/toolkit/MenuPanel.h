@@ -63,10 +63,10 @@ public:
     void comeBack()
     {
         QVERIFY(!QApplication::activePopupWidget());
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
         host.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&host));
+        QTRY_COMPARE(QGuiApplication::focusWindow(), host.windowHandle());
+        QApplication::setActiveWindow(&host);
     }
 
     void copyWithKeys(int id) const
