@@ -1,3 +1,5 @@
+#include "support/Contrast.h"
+
 #include "reference/toolkit/IconButton.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
@@ -10,30 +12,13 @@
 #include <QtTest>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace WQ;
+using support::contrast;
 
 namespace {
 
 constexpr double kLeastContrast = 3.0;
-
-double linear(double channel)
-{
-    return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& color)
-{
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b)
-{
-    const double lighter = std::max(luminance(a), luminance(b));
-    const double darker = std::min(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 /// The pixels in which two pictures of a widget differ enough to be told apart.
 int pixelsThatStandOut(const QImage& before, const QImage& after)

@@ -1,3 +1,5 @@
+#include "support/Contrast.h"
+
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/ThemeReader.h"
@@ -5,10 +7,8 @@
 #include <QFile>
 #include <QtTest>
 
-#include <algorithm>
-#include <cmath>
-
 using namespace WQ;
+using support::contrast;
 
 namespace {
 
@@ -19,23 +19,6 @@ ThemeColors colorsOf(const QString& theme)
         return {};
     QString error;
     return readThemeColors(file.readAll(), error).value_or(ThemeColors());
-}
-
-double linear(double channel)
-{
-    return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& color)
-{
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b)
-{
-    const double lighter = std::max(luminance(a), luminance(b));
-    const double darker = std::min(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
 }
 
 /// How well something has to stand out: a value most, then other texts, then frames, bars and boxes.
