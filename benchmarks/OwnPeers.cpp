@@ -1,6 +1,7 @@
 #include "benchmarks/OwnPeers.h"
 
 #include "benchmarks/OwnTable.h"
+#include "reference/services/ServiceControl.h"
 
 #include <OrderParamTable_mini/tables/CGlobalOrderParamTable.h>
 
@@ -83,6 +84,12 @@ TC::OperationCellFlags flagsOf(const Mode& mode)
     for (const int id : mode.shown)
         flags |= id;
     return TC::OperationCellFlags(QFlag(flags));
+}
+
+void switchOnPanelModules()
+{
+    reference::setModules(
+        {QStringLiteral("mdl_alg/mdl_alg_randvolume"), QStringLiteral("mdl_order/mdl_order_command_remark")});
 }
 
 void OwnPeer::changeNumber(double value)

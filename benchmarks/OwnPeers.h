@@ -24,4 +24,7 @@ public:
 /// The cells of a mode as a host hands them to our panel.
 TC::OperationCellFlags flagsOf(const Mode& mode);
 
+/// Switches on the feature modules without which the panel lacks rows of the common content.
+void switchOnPanelModules();
+
 } // namespace bench

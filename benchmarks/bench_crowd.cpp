@@ -3,9 +3,9 @@
 
 #include "benchmarks/Heap.h"
 #include "benchmarks/Median.h"
+#include "benchmarks/OwnPeers.h"
 #include "benchmarks/Stage.h"
 #include "benchmarks/Stopwatch.h"
-#include "reference/services/ServiceControl.h"
 
 #include <benchmark/benchmark.h>
 
@@ -112,8 +112,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     benchmark::Initialize(&argc, argv);
     QApplication application(argc, argv);
-    reference::setModules(
-        {QStringLiteral("mdl_alg/mdl_alg_randvolume"), QStringLiteral("mdl_order/mdl_order_command_remark")});
+    bench::switchOnPanelModules();
     const QStringList arguments = application.arguments();
     if (arguments.size() == 3 && arguments.at(1) == QLatin1String("--gather"))
         return gatherHere(arguments.at(2));

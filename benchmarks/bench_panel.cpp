@@ -3,8 +3,8 @@
 
 #include "benchmarks/CountJobs.h"
 #include "benchmarks/Heap.h"
+#include "benchmarks/OwnPeers.h"
 #include "benchmarks/PanelJobs.h"
-#include "reference/services/ServiceControl.h"
 
 #include <benchmark/benchmark.h>
 
@@ -21,8 +21,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     if (application.arguments().contains(QStringLiteral("--style-sheet")))
         application.setStyleSheet(bench::applicationStyleSheet());
-    reference::setModules(
-        {QStringLiteral("mdl_alg/mdl_alg_randvolume"), QStringLiteral("mdl_order/mdl_order_command_remark")});
+    bench::switchOnPanelModules();
     const QString differences = bench::differencesOfContenders();
     if (!differences.isEmpty()) {
         std::fprintf(stderr, "bench_panel: ERROR OCCURRED: %s\n", qPrintable(differences));

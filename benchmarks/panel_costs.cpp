@@ -3,7 +3,7 @@
 
 #include "benchmarks/Allocations.h"
 #include "benchmarks/CostJobs.h"
-#include "reference/services/ServiceControl.h"
+#include "benchmarks/OwnPeers.h"
 
 #include <QApplication>
 #include <QHash>
@@ -16,8 +16,7 @@ int main(int argc, char** argv)
     qSetGlobalQHashSeed(0);
     qputenv("QT_NO_GLIB", "1");
     QApplication application(argc, argv);
-    reference::setModules(
-        {QStringLiteral("mdl_alg/mdl_alg_randvolume"), QStringLiteral("mdl_order/mdl_order_command_remark")});
+    bench::switchOnPanelModules();
     std::printf("%s", qPrintable(bench::writeCosts(bench::countCosts(bench::allocations))));
     return 0;
 }
