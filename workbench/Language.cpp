@@ -74,6 +74,8 @@ void setLanguage(const QString& language)
             QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     install(translator(QStringLiteral("workbenchTexts")), QStringLiteral("workbench_") + language,
             QStringLiteral(":/workbench/translations"));
+    install(translator(QStringLiteral("toolkitTexts")), QStringLiteral("toolkit_") + language,
+            QStringLiteral(":/orderparam/translations"));
 }
 
 QString language()

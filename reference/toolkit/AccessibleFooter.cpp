@@ -50,9 +50,9 @@ QString AccessibleFooter::text(QAccessible::Text kind) const
     if (!isValid())
         return QString();
     if (kind == QAccessible::Name)
-        return QStringLiteral("筛选");
+        return CMultiParamsTable::tr("筛选");
     const bool filters = !CMultiParamsTablePrivate::of(m_table)->model().visibleSet().isEmpty();
-    return kind == QAccessible::Description && filters ? QStringLiteral("部分参数未显示") : QString();
+    return kind == QAccessible::Description && filters ? CMultiParamsTable::tr("部分参数未显示") : QString();
 }
 
 void AccessibleFooter::setText(QAccessible::Text, const QString&)

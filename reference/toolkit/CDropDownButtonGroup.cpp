@@ -134,7 +134,6 @@ void CDropDownButtonGroup::setHelpButtonCritical(bool critical)
         return;
     d->makeHelp();
     d->help->setDot(critical);
-    d->help->setAccessibleDescription(critical ? tr("有重要提示") : QString());
 }
 
 QString CDropDownButtonGroup::getParam()

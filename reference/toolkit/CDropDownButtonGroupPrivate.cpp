@@ -58,7 +58,10 @@ void CDropDownButtonGroupPrivate::makeHelp()
         return;
     help = new IconButton(keys::kHelpImage, keys::kHelpIcon, group);
     help->hide();
-    help->setAccessibleName(CDropDownButtonGroup::tr("帮助"));
+    help->keepTexts([](IconButton& button) {
+        button.setAccessibleName(CDropDownButtonGroup::tr("帮助"));
+        button.setAccessibleDescription(button.hasDot() ? CDropDownButtonGroup::tr("有重要提示") : QString());
+    });
     QObject::connect(help, &QAbstractButton::clicked, group,
                      [this] { postPersonEvent(group, *group, kClicked, kHelpId, 0, QString()); });
     takeFocusAfter(dropDown ? static_cast<QWidget*>(dropDown) : group, help);
@@ -70,7 +73,7 @@ void CDropDownButtonGroupPrivate::makeDropDown()
         return;
     dropDown = new IconButton(keys::kChevronImage, keys::kChevron, group);
     dropDown->hide();
-    dropDown->setAccessibleName(CDropDownButtonGroup::tr("更多"));
+    dropDown->keepTexts([](IconButton& button) { button.setAccessibleName(CDropDownButtonGroup::tr("更多")); });
     QObject::connect(dropDown, &QAbstractButton::clicked, group, [this] { openDropDown(); });
     takeFocusAfter(group, dropDown);
 }

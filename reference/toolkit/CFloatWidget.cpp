@@ -43,7 +43,7 @@ CFloatWidgetPrivate::CFloatWidgetPrivate(CFloatWidget* owner, bool isClosable)
 {
     if (!close)
         return;
-    close->setAccessibleName(CFloatWidget::tr("关闭"));
+    close->keepTexts([](IconButton& button) { button.setAccessibleName(CFloatWidget::tr("关闭")); });
     // Tab goes through what the dialog shows; Esc closes it from the keyboard.
     close->setFocusPolicy(Qt::NoFocus);
     QObject::connect(close, &QAbstractButton::clicked, dialog, &QWidget::close);

@@ -124,6 +124,8 @@ void CMultiParamsTable::changeEvent(QEvent* event)
         if (CellInteraction* interaction = d->interactionIfAny())
             interaction->enabledChanged();
     }
+    if (event->type() == QEvent::LanguageChange && d->interactionIfAny())
+        d->interactionIfAny()->languageChanged();
 }
 
 void CMultiParamsTable::keyPressEvent(QKeyEvent* event)

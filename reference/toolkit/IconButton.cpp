@@ -4,6 +4,7 @@
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
+#include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -31,10 +32,26 @@ IconButton::IconButton(QString imageKey, QString sizeKey, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
 }
 
+void IconButton::keepTexts(std::function<void(IconButton&)> setTexts)
+{
+    m_setTexts = std::move(setTexts);
+    m_setTexts(*this);
+}
+
 void IconButton::setDot(bool dot)
 {
-    if (std::exchange(m_dot, dot) != dot)
-        update();
+    if (std::exchange(m_dot, dot) == dot)
+        return;
+    if (m_setTexts)
+        m_setTexts(*this);
+    update();
+}
+
+void IconButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && m_setTexts)
+        m_setTexts(*this);
+    QAbstractButton::changeEvent(event);
 }
 
 void IconButton::themeChanged()

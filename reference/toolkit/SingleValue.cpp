@@ -1,5 +1,6 @@
 #include "reference/toolkit/SingleValue.h"
 
+#include "reference/toolkit/Wording.h"
 #include "reference/toolkit/cells/NumberRules.h"
 
 #include <WQ/Formatting.h>
@@ -70,12 +71,12 @@ QString limitsMessage(double min, double max)
     const bool hasMin = min > -kEndless;
     const bool hasMax = max < kEndless;
     if (hasMin && hasMax)
-        return QStringLiteral("请输入 %1 – %2").arg(limitText(min), limitText(max));
+        return wording("请输入 %1 – %2").arg(limitText(min), limitText(max));
     if (hasMin)
-        return QStringLiteral("请输入不小于 %1 的数").arg(limitText(min));
+        return wording("请输入不小于 %1 的数").arg(limitText(min));
     if (hasMax)
-        return QStringLiteral("请输入不大于 %1 的数").arg(limitText(max));
-    return QStringLiteral("请输入数字");
+        return wording("请输入不大于 %1 的数").arg(limitText(max));
+    return wording("请输入数字");
 }
 
 } // namespace WQ

@@ -2,6 +2,8 @@
 #include "workbench/Language.h"
 #include "workbench/Vocabulary.h"
 
+#include <WQ/CDropDownButtonGroup.h>
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QXmlStreamReader>
@@ -29,6 +31,7 @@ private Q_SLOTS:
     void languagesSwitchBackAndForth();
     void anUnknownLanguageChangesNothing();
     void countsAreInflected();
+    void theToolkitSpeaksTheSame();
 };
 
 void tst_Language::cleanup()
@@ -109,6 +112,16 @@ void tst_Language::countsAreInflected()
     QCOMPARE(events(2), QStringLiteral("2 events"));
     setLanguage(QStringLiteral("zh_CN"));
     QCOMPARE(events(2), QStringLiteral("2 个事件"));
+}
+
+void tst_Language::theToolkitSpeaksTheSame()
+{
+    setLanguage(QStringLiteral("en"));
+    QCOMPARE(WQ::CDropDownButtonGroup::tr("帮助"), QStringLiteral("Help"));
+    setLanguage(QStringLiteral("zh_CN"));
+    QCOMPARE(WQ::CDropDownButtonGroup::tr("帮助"), QStringLiteral("帮助"));
+    setLanguage(QStringLiteral("en"));
+    QCOMPARE(WQ::CDropDownButtonGroup::tr("帮助"), QStringLiteral("Help"));
 }
 
 QTEST_MAIN(tst_Language)

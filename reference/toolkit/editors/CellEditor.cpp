@@ -186,7 +186,7 @@ QString CellEditor::periodText() const
 {
     if (!m_cell || m_cell->kind() != CellKind::TimePeriod)
         return QString();
-    return m_period == TimeRangeClock ? QStringLiteral("时段") : QStringLiteral("时长");
+    return m_period == TimeRangeClock ? tr("时段") : tr("时长");
 }
 
 QString CellEditor::separator() const

@@ -2,6 +2,7 @@
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 #include "reference/toolkit/editors/CellFlash.h"
+#include "reference/toolkit/editors/CellMenu.h"
 #include "reference/toolkit/editors/ChoicePopup.h"
 #include "reference/toolkit/editors/FilterPopup.h"
 #include "reference/toolkit/editors/Notice.h"
@@ -256,6 +257,20 @@ void CellInteraction::themeChanged()
     }
     if (m_flash)
         m_flash->themeChanged();
+}
+
+// What is being typed stays, and is told in the new language why it is wrong. What was said of an end is not said
+// again.
+void CellInteraction::languageChanged()
+{
+    if (m_menu)
+        m_menu->close();
+    forgetRefusal();
+    if (m_flash)
+        m_flash->stop();
+    if (m_filter && m_filter->isVisible())
+        m_filter->refresh();
+    draftChanged();
 }
 
 void CellInteraction::addRowState(const CellItem& cell, RowState& state) const

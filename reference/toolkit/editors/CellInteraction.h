@@ -62,6 +62,7 @@ public:
     void enabledChanged();
     void filterChanged();
     void themeChanged();
+    void languageChanged();
 
     void addRowState(const CellItem& cell, RowState& state) const;
     FooterState footerState() const;

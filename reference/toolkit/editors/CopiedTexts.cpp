@@ -1,5 +1,6 @@
 #include "reference/toolkit/editors/CopiedTexts.h"
 
+#include "reference/toolkit/Wording.h"
 #include "reference/toolkit/cells/CellModel.h"
 #include "reference/toolkit/cells/ComboCell.h"
 #include "reference/toolkit/cells/ValueCells.h"
@@ -69,7 +70,7 @@ Judgement wrong(const CellItem& cell, const QString& why)
 Judgement judgeEntry(const CellItem& cell, const QString& text)
 {
     if (pastedEntry(cell, text) < 0)
-        return wrong(cell, QStringLiteral("没有这个选项"));
+        return wrong(cell, wording("没有这个选项"));
     Judgement judgement;
     judgement.ok = true;
     return judgement;
@@ -148,9 +149,9 @@ Judgement judgePasted(const CellItem& cell, const QString& text)
     const bool isText = cell.kind() == CellKind::Line || cell.kind() == CellKind::Text;
     // An editor is one line of so many characters: it cuts off and joins what a paste refuses.
     if (isText && first.size() > kLongestTyped)
-        return wrong(cell, QStringLiteral("文字过长（最多 %1 个字符）").arg(kLongestTyped));
+        return wrong(cell, wording("文字过长（最多 %1 个字符）").arg(kLongestTyped));
     if (isText && std::any_of(first.begin(), first.end(), isBreak))
-        return wrong(cell, QStringLiteral("不能含有换行或制表符"));
+        return wrong(cell, wording("不能含有换行或制表符"));
     return judgeDraft(cell, draft);
 }
 

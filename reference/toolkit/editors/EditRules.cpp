@@ -1,5 +1,6 @@
 #include "reference/toolkit/editors/EditRules.h"
 
+#include "reference/toolkit/Wording.h"
 #include "reference/toolkit/cells/NumberCell.h"
 #include "reference/toolkit/cells/ValueCells.h"
 #include "reference/toolkit/editors/TimeTexts.h"
@@ -123,10 +124,10 @@ Judgement judgePeriod(const CellItem& cell, const Draft& draft)
 {
     if (draft.period == TimeRangeDuration)
         return times::typedSeconds(draft.texts.at(0)) ? right()
-                                                      : wrong(cell, QStringLiteral("不是时长（00:00:00 – 24:00:00）"));
+                                                      : wrong(cell, wording("不是时长（00:00:00 – 24:00:00）"));
     return times::typedTime(draft.texts.at(0)) && times::typedTime(draft.texts.at(1))
         ? right()
-        : wrong(cell, QStringLiteral("不是时间（00:00:00 – 23:59:59）"));
+        : wrong(cell, wording("不是时间（00:00:00 – 23:59:59）"));
 }
 
 bool storePeriod(CellItem& cell, const Draft& draft)
@@ -155,8 +156,7 @@ std::optional<SteppedField> stepPeriod(const CellItem& cell, const Draft& draft,
 
 Judgement judgeLine(const CellItem& cell, const Draft& draft)
 {
-    return static_cast<const LineCell&>(cell).accepts(draft.texts.at(0)) ? right()
-                                                                         : wrong(cell, QStringLiteral("格式不符"));
+    return static_cast<const LineCell&>(cell).accepts(draft.texts.at(0)) ? right() : wrong(cell, wording("格式不符"));
 }
 
 Judgement judgeText(const CellItem&, const Draft&)

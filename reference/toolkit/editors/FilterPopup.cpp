@@ -18,12 +18,12 @@ namespace {
 
 QString resetText()
 {
-    return QStringLiteral("重置");
+    return FilterPopup::tr("重置");
 }
 
 QString applyText()
 {
-    return QStringLiteral("应用");
+    return FilterPopup::tr("应用");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "reference/toolkit/editors/InitialValue.h"
 
+#include "reference/toolkit/Wording.h"
 #include "reference/toolkit/cells/ComboCell.h"
 #include "reference/toolkit/cells/NumberCell.h"
 #include "reference/toolkit/cells/ValueCells.h"
@@ -62,7 +63,7 @@ Judgement judgeInitialChoice(const ComboCell& combo, const QVariant& data)
     Judgement judgement;
     judgement.ok = combo.indexOfData(data) >= 0;
     if (!judgement.ok)
-        judgement.message = combo.label() + QStringLiteral(" 已没有最初的选项");
+        judgement.message = combo.label() + QLatin1Char(' ') + wording("已没有最初的选项");
     return judgement;
 }
 
