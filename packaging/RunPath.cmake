@@ -1,0 +1,21 @@
+# Installed programs and libraries find each other wherever the prefix is moved to. In /usr they need no help, and
+# distributions refuse it.
+if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    return()
+endif()
+file(RELATIVE_PATH libraries_from_programs "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+string(REGEX REPLACE "/$" "" libraries_from_programs "${libraries_from_programs}")
+foreach(library IN ITEMS OrderParamTable_mini reference)
+    if(TARGET ${library})
+        set_target_properties(${library} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    endif()
+endforeach()
+foreach(program IN ITEMS orderparam-workbench orderparam-replay)
+    if(TARGET ${program})
+        set_target_properties(${program} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
+    endif()
+endforeach()
+if(NOT TARGET reference)
+    # A client's own platform stays where the client put it.
+    set_target_properties(OrderParamTable_mini PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
+endif()
