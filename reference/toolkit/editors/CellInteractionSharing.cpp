@@ -21,6 +21,12 @@ std::vector<CellInteraction*>& interactions()
     return all;
 }
 
+// Qt takes a window out of its own tab chain before the widgets in it go, and can put nothing into it any more.
+bool isGoing(const QWidget& window)
+{
+    return !window.nextInFocusChain();
+}
+
 } // namespace
 
 CellInteraction::CellInteraction(CMultiParamsTablePrivate& table)
@@ -66,8 +72,9 @@ bool CellInteraction::gainEditor()
 void CellInteraction::bequeathEditor()
 {
     const auto& all = interactions();
-    const auto heir =
-        std::find_if(all.rbegin(), all.rend(), [](const CellInteraction* other) { return !other->m_editor; });
+    const auto heir = std::find_if(all.rbegin(), all.rend(), [](const CellInteraction* other) {
+        return !other->m_editor && !isGoing(*other->widget().window());
+    });
     if (!m_editor || !m_editor->isIdle() || heir == all.rend()) {
         delete m_editor;
         return;

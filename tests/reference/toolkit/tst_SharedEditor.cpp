@@ -94,6 +94,7 @@ private Q_SLOTS:
     void anOpenEditorGoesWithItsTable();
     void anOpenEditorGoesWithItsWindow();
     void theLastTableTakesTheEditorWithIt();
+    void aWindowGoesWithADialogWhoseTableHasTheEditor();
     void tablesOfOneWindowMayGoInAnyOrder_data();
     void tablesOfOneWindowMayGoInAnyOrder();
     void aListenerMayDeleteTheTableThatLentTheEditor();
@@ -235,6 +236,25 @@ void tst_SharedEditor::theLastTableTakesTheEditorWithIt()
     QCOMPARE(editorCount(), 1);
     m_second.reset();
     QCOMPARE(editorCount(), 0);
+}
+
+// The dialog is deleted while its window is half gone, and the window's own table would be the heir.
+void tst_SharedEditor::aWindowGoesWithADialogWhoseTableHasTheEditor()
+{
+    auto* dialog = new QWidget(nullptr, Qt::Dialog);
+    m_second->table->setParent(dialog);
+    dialog->setParent(&m_first->host, Qt::Dialog);
+    m_first->table->raise(); // so that it goes after the dialog
+    dialog->show();
+    visit(*m_first, Cell::Least);
+    m_second->table->show();
+    m_second->clickValue(Cell::Least);
+    QVERIFY(editorOf(*m_second));
+    m_second->press(Qt::Key_Escape);
+    const QPointer<WQ::CellEditor> editor(editorOf(*m_second));
+    m_first.reset();
+    QVERIFY(!editor);
+    QVERIFY(!m_second->table);
 }
 
 void tst_SharedEditor::tablesOfOneWindowMayGoInAnyOrder_data()
