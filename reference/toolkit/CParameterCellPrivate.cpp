@@ -136,6 +136,7 @@ void CParameterCellPrivate::edit(const QString& startText, bool selectAll)
         return;
     editor = new FieldEditor(startText, valueFont(), cell);
     editor->setAccessibleName(label.trimmed());
+    editor->setStepsByWheel(rule.isNumber);
     if (!selectAll)
         editor->end(false);
     QObject::connect(editor, &QLineEdit::textChanged, cell, [this] { judge(); });

@@ -2,7 +2,6 @@
 
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
-#include "reference/toolkit/editors/StepKeys.h"
 
 #include <QKeyEvent>
 
@@ -42,6 +41,11 @@ void FieldEditor::setWrong(bool wrong)
     setStyleSheet(sheet(m_font, wrong ? keys::kWrongFill : keys::kInput));
 }
 
+void FieldEditor::setStepsByWheel(bool steps)
+{
+    m_stepsByWheel = steps;
+}
+
 // A host's shortcut on a key of the edit would take it away.
 bool FieldEditor::event(QEvent* event)
 {
@@ -74,6 +78,17 @@ void FieldEditor::keyPressEvent(QKeyEvent* event)
         return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+void FieldEditor::wheelEvent(QWheelEvent* event)
+{
+    if (!m_stepsByWheel || !hasFocus()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (const int steps = m_wheel.takeSteps(*event))
+        Q_EMIT stepped(steps);
 }
 
 void FieldEditor::focusOutEvent(QFocusEvent* event)

@@ -156,6 +156,8 @@ void PopupList::paintEvent(QPaintEvent* event)
     QListView::paintEvent(event);
     QPainter painter(viewport());
     painting::drawFrame(painter, viewport()->rect(), resources::color(keys::kSeparator));
+    if (currentIndex().isValid())
+        painting::drawFrame(painter, visualRect(currentIndex()), resources::color(keys::kAccent));
 }
 
 bool PopupList::event(QEvent* event)

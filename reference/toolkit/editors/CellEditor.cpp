@@ -40,7 +40,7 @@ void CellEditor::open(const CellItem& cell, const QRect& area, const RowMetrics&
 {
     m_idle = false;
     m_cell = &cell;
-    m_wheelRest = 0;
+    m_wheel.clear();
     m_start = draftOf(cell);
     takeLook(metrics.font);
     load(m_start);

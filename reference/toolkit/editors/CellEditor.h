@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference/toolkit/editors/EditRules.h"
+#include "reference/toolkit/editors/StepKeys.h"
 
 #include <QColor>
 #include <QFont>
@@ -10,7 +11,6 @@
 
 class QKeyEvent;
 class QLineEdit;
-class QWheelEvent;
 
 namespace WQ {
 
@@ -117,7 +117,7 @@ private:
     Draft m_start;
     EWqTimeRangeType m_period = TimeRangeClock;
     int m_gap = 0;
-    int m_wheelRest = 0;
+    WheelNotches m_wheel;
     bool m_loading = false;
     bool m_idle = true;
 };

@@ -15,11 +15,6 @@ namespace WQ {
 
 namespace {
 
-bool isTab(const QKeyEvent& event)
-{
-    return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
-}
-
 // Qt leaves the menu of a line open when the line is hidden.
 void closeMenus(const QObject& line)
 {
@@ -36,7 +31,7 @@ bool CellEditor::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::ShortcutOverride:
         // A host's shortcut on one of these keys would take it from the edit.
-        if (!isEditorKey(static_cast<QKeyEvent&>(*event)) && !isTab(static_cast<QKeyEvent&>(*event)))
+        if (!isEditorKey(static_cast<QKeyEvent&>(*event)))
             return false;
         event->accept();
         return true;
@@ -89,11 +84,8 @@ bool CellEditor::wheel(const QWheelEvent& event)
 {
     if (!ownsFocus() || !m_cell || !stepField(*m_cell, draft(), focusedField(), 0, 0))
         return false;
-    m_wheelRest += event.angleDelta().y();
-    const int notches = m_wheelRest / QWheelEvent::DefaultDeltasPerStep;
-    m_wheelRest -= notches * QWheelEvent::DefaultDeltasPerStep;
-    if (notches != 0)
-        step(notches * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1));
+    if (const int steps = m_wheel.takeSteps(event))
+        step(steps);
     return true;
 }
 

@@ -206,13 +206,12 @@ void CellInteraction::relayout()
         m_choices->hide();
     if (m_flash)
         m_flash->follow();
-    if (!m_cell)
-        return;
-    if (m_table.model().isShown(*m_cell))
+    const QPointer<CMultiParamsTable> alive(&widget());
+    if (m_cell && m_table.model().isShown(*m_cell))
         m_editor->place(m_table.layoutOf(*m_cell).value, m_table.metrics());
     else
         finish(Ending::Commit);
-    if (m_notice)
+    if (alive && m_notice)
         m_notice->follow();
 }
 

@@ -135,7 +135,7 @@ void CellInteraction::refuse(const CellItem& cell, const QString& why)
     makeVisible(cell);
     if (!m_notice)
         m_notice = new Notice(&widget());
-    const auto row = [this] { return m_refused ? toGlobal(m_table.rowRect(*m_refused)) : QRect(); };
+    const auto row = [this] { return m_refused ? m_table.rowRect(*m_refused) : QRect(); };
     m_notice->tell(why, Notice::Kind::Wrong, row, m_table.scale());
 }
 

@@ -46,9 +46,9 @@ QString sheet(double scale)
     const int padding = resources::size(keys::kPadding, scale);
     return QStringLiteral("QMenu { background: %1; color: %2; border: 1px solid %3; margin: 0; padding: 0;"
                           " font-size: %6px; font-family: \"%7\"; }"
-                          " QMenu::item { background: transparent; color: %2; border: none;"
+                          " QMenu::item { background: transparent; color: %2; border: 1px solid transparent;"
                           " padding: %8px %9px %8px %10px; }"
-                          " QMenu::item:selected { background: %4; }"
+                          " QMenu::item:selected { background: %4; border-color: %11; }"
                           " QMenu::item:disabled { color: %5; }"
                           " QMenu::separator { height: 1px; background: %3; margin: 0; }")
         .arg(resources::color(keys::kRow).name(), resources::color(keys::kValue).name(),
@@ -58,7 +58,8 @@ QString sheet(double scale)
         .arg(font.family())
         .arg(padding / 2)
         .arg(2 * padding)
-        .arg(3 * padding);
+        .arg(3 * padding)
+        .arg(resources::color(keys::kAccent).name());
 }
 
 } // namespace

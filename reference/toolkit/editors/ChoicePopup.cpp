@@ -62,7 +62,7 @@ int ChoicePopup::contentWidth() const
 void ChoicePopup::paintRow(QPainter& painter, int row, const QRect& rect, bool isCurrent)
 {
     if (isCurrent)
-        painter.fillRect(rect, resources::color(keys::kRowFocus));
+        paintCurrent(painter, rect);
     const int padding = size(keys::kPadding);
     painting::drawText(painter, rect.adjusted(padding, 0, -padding, 0), textFont(),
                        resources::color(row == m_chosen ? keys::kAccent : keys::kValue),

@@ -109,7 +109,7 @@ void FilterPopup::paintRow(QPainter& painter, int row, const QRect& rect, bool i
 {
     const Row& shown = m_rows[static_cast<size_t>(row)];
     if (isCurrent && m_stop == Stop::Rows)
-        painter.fillRect(rect, resources::color(keys::kRowFocus));
+        paintCurrent(painter, rect);
     const int edge = size(keys::kCheckBox);
     const int padding = size(keys::kPadding);
     paintCheckBox(painter, QRect(rect.left() + padding, rect.top() + (rect.height() - edge) / 2, edge, edge),
@@ -122,7 +122,7 @@ void FilterPopup::paintButton(QPainter& painter, const QRect& rect, const QStrin
                               bool hasFocus)
 {
     if (hasFocus)
-        painter.fillRect(rect, resources::color(keys::kRowFocus));
+        paintCurrent(painter, rect);
     painting::drawText(painter, rect, textFont(), color, Qt::AlignCenter, text);
 }
 

@@ -97,7 +97,7 @@ void PopupRows::popUp(const QRect& anchor, double scale)
     m_anchor = anchor;
     m_scale = scale;
     m_top = 0;
-    m_wheelRest = 0;
+    m_wheel.clear();
     m_pressed = false;
     resizeToContent();
     scrollTo(m_current);
@@ -173,6 +173,12 @@ void PopupRows::paintEvent(QPaintEvent*)
     paintFooter(painter);
     paintScrollHandle(painter);
     painting::drawFrame(painter, rect(), resources::color(keys::kSeparator));
+}
+
+void PopupRows::paintCurrent(QPainter& painter, const QRect& rect)
+{
+    painter.fillRect(rect, resources::color(keys::kRowFocus));
+    painting::drawFrame(painter, rect, resources::color(keys::kAccent));
 }
 
 void PopupRows::paintScrollHandle(QPainter& painter) const
@@ -262,10 +268,7 @@ void PopupRows::mouseMoveEvent(QMouseEvent* event)
 void PopupRows::wheelEvent(QWheelEvent* event)
 {
     event->accept();
-    m_wheelRest += event->angleDelta().y();
-    const int notches = m_wheelRest / QWheelEvent::DefaultDeltasPerStep;
-    m_wheelRest -= notches * QWheelEvent::DefaultDeltasPerStep;
-    setTop(m_top - notches);
+    setTop(m_top - m_wheel.take(*event));
 }
 
 void PopupRows::hideEvent(QHideEvent* event)

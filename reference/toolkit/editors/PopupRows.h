@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reference/toolkit/editors/StepKeys.h"
+
 #include <WQ/WqExport.h>
 
 #include <QWidget>
@@ -62,6 +64,9 @@ protected:
     QRect footerRect() const;
     void moveCurrent(int by);
 
+    /// The ground and the frame of what a key would act on.
+    static void paintCurrent(QPainter& painter, const QRect& rect);
+
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -86,7 +91,7 @@ private:
     double m_scale = 1;
     int m_current = -1;
     int m_top = 0;
-    int m_wheelRest = 0;
+    WheelNotches m_wheel;
     bool m_pressed = false;
 };
 

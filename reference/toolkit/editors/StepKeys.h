@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QKeyEvent>
+#include <QWheelEvent>
 
 namespace WQ {
 
@@ -26,6 +27,34 @@ inline int stepsOf(const QKeyEvent& event)
     }
 }
 
+/// Turns of a wheel, of which a fine one sends many small ones, as whole notches.
+class WheelNotches
+{
+public:
+    /// The notches that are full with @p event; the rest counts for the next.
+    int take(const QWheelEvent& event)
+    {
+        m_rest += event.angleDelta().y();
+        const int notches = m_rest / QWheelEvent::DefaultDeltasPerStep;
+        m_rest -= notches * QWheelEvent::DefaultDeltasPerStep;
+        return notches;
+    }
+
+    /// The same as steps of a value: ten a notch with Shift.
+    int takeSteps(const QWheelEvent& event)
+    {
+        return take(event) * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1);
+    }
+
+    void clear()
+    {
+        m_rest = 0;
+    }
+
+private:
+    int m_rest = 0;
+};
+
 /// Whether an editor uses this key itself beside what a line of text uses.
 inline bool isEditorKey(const QKeyEvent& event)
 {
@@ -33,6 +62,8 @@ inline bool isEditorKey(const QKeyEvent& event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Escape:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
         return true;
     default:
         return stepsOf(event) != 0;

@@ -117,6 +117,9 @@ private Q_SLOTS:
     void longTextsAreInTheToolTip();
     void aPersonTypesANumber();
     void aPersonTypesAText();
+    void theWheelStepsWhatIsBeingEdited();
+    void theWheelOverATextScrolls();
+    void keysOfTheEditAreNoShortcutsOfTheHost();
     void committingTheSameSendsNothing();
     void typingReplacesTheValue();
     void escapeTakesTheEditBack();
@@ -505,6 +508,68 @@ void CParameterCellTest::itIsAccessible()
     c.cell->setEnabled(false);
     QVERIFY(access->state().readOnly);
     QVERIFY(access->state().disabled);
+}
+
+namespace {
+
+/// Whether the editor took the turn.
+bool turn(QWidget& widget, int angle, Qt::KeyboardModifiers held = Qt::NoModifier)
+{
+    QWheelEvent event(QPointF(5, 5), widget.mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, angle), Qt::NoButton, held,
+                      Qt::NoScrollPhase, false);
+    event.setAccepted(false);
+    QCoreApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
+}
+
+} // namespace
+
+void CParameterCellTest::theWheelStepsWhatIsBeingEdited()
+{
+    Cell c;
+    c.cell->setDoubleValidator(QString(), 0, 100, 0.5);
+    c.cell->setDouble(10);
+    c.type(QStringLiteral("10"));
+    FieldEditor& editor = *c.editor();
+    QVERIFY(turn(editor, 120));
+    QCOMPARE(editor.text(), QStringLiteral("10.5"));
+    QVERIFY(turn(editor, -120, Qt::ShiftModifier));
+    QCOMPARE(editor.text(), QStringLiteral("5.5"));
+    // A fine wheel sends an eighth of a notch at a time.
+    for (int i = 0; i < 7; ++i)
+        QVERIFY(turn(editor, 15));
+    QCOMPARE(editor.text(), QStringLiteral("5.5"));
+    QVERIFY(turn(editor, 15));
+    QCOMPARE(editor.text(), QStringLiteral("6.0"));
+    c.other->setFocus();
+    QCOMPARE(c.cell->text(), QStringLiteral("6.0"));
+}
+
+void CParameterCellTest::theWheelOverATextScrolls()
+{
+    Cell c;
+    c.cell->setString(QStringLiteral("季度调仓"));
+    c.type(QStringLiteral("10"));
+    turn(*c.editor(), 120);
+    QCOMPARE(c.editor()->text(), QStringLiteral("10"));
+    Cell closed;
+    closed.cell->setDoubleValidator(QString(), 0, 100, 1);
+    closed.cell->setDouble(10);
+    turn(*closed.cell, 120);
+    QCOMPARE(closed.cell->text(), QStringLiteral("10"));
+}
+
+void CParameterCellTest::keysOfTheEditAreNoShortcutsOfTheHost()
+{
+    Cell c;
+    c.type(QStringLiteral("10"));
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Up,
+                              Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) {
+        QKeyEvent asked(QEvent::ShortcutOverride, key, Qt::NoModifier);
+        asked.ignore();
+        QCoreApplication::sendEvent(c.editor(), &asked);
+        QVERIFY2(asked.isAccepted(), qPrintable(QString::number(key)));
+    }
 }
 
 QTEST_MAIN(CParameterCellTest)

@@ -1,15 +1,14 @@
 #include "support/Contrast.h"
 
+#include "MenuPanel.h"
+
 #include "reference/toolkit/IconButton.h"
-#include "reference/toolkit/Resources.h"
+#include "reference/toolkit/PopupList.h"
 #include "reference/toolkit/ThemeKeys.h"
 
-#include <WQ/CMultiParamsTable.h>
 #include <WQ/CParameterCell.h>
 #include <WQ/CPushButton.h>
 #include <WQ/ToolkitTypes.h>
-
-#include <QtTest>
 
 #include <algorithm>
 
@@ -89,9 +88,59 @@ QWidget* makeField(QWidget* parent)
     return new CParameterCell(1, QStringLiteral("数量"), QString(), parent);
 }
 
+// Each opens a list over the panel and answers it; its first stop is current.
+
+using Open = QWidget* (*)(MenuPanel&);
+
+QWidget* openEntries(MenuPanel& panel)
+{
+    panel.focusRow(EditorPanel::Combo);
+    panel.press(Qt::Key_F2);
+    return panel.list();
+}
+
+QWidget* openUnits(MenuPanel& panel)
+{
+    panel.focusRow(EditorPanel::Price);
+    panel.press(Qt::Key_Down, Qt::AltModifier);
+    return panel.list();
+}
+
+QWidget* openFilter(MenuPanel& panel)
+{
+    panel.table->setAllItemSet({EditorPanel::Price, EditorPanel::Least});
+    panel.table->setCustomWidgetVisible(true);
+    panel.table->setMinimumHeight(panel.table->realHeight());
+    QCoreApplication::processEvents();
+    panel.click(panel.inner().footerRect());
+    return panel.filter();
+}
+
+QWidget* openFilterButtons(MenuPanel& panel)
+{
+    QWidget* filter = openFilter(panel);
+    panel.press(Qt::Key_Tab);
+    return filter;
+}
+
+QWidget* openMenu(MenuPanel& panel)
+{
+    QWidget* menu = panel.menuOf(EditorPanel::Price);
+    panel.press(Qt::Key_Down);
+    return menu;
+}
+
+QWidget* openDropDown(MenuPanel& panel)
+{
+    auto* list = new PopupList(&panel.host, {QStringLiteral("随机量"), QStringLiteral("智能算法")}, 0, [](int) {});
+    list->open(QRect(panel.host.mapToGlobal(QPoint(0, 0)), QSize(1, 1)));
+    return list;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Make)
+Q_DECLARE_METATYPE(Open)
 
 /// Whoever works by the keyboard alone sees where it goes.
 class tst_FocusVisible : public QObject
@@ -102,6 +151,8 @@ private Q_SLOTS:
 
     void whatHasTheFocusStandsOut_data();
     void whatHasTheFocusStandsOut();
+    void whatIsCurrentInAListStandsOut_data();
+    void whatIsCurrentInAListStandsOut();
 };
 
 void tst_FocusVisible::cleanup()
@@ -143,6 +194,51 @@ void tst_FocusVisible::whatHasTheFocusStandsOut()
     constexpr int kLeastPixels = 100;
     const int found = pixelsThatStandOut(before, after);
     QVERIFY2(found >= kLeastPixels, qPrintable(QString::number(found)));
+}
+
+void tst_FocusVisible::whatIsCurrentInAListStandsOut_data()
+{
+    struct Row
+    {
+        const char* name;
+        Open open;
+        Qt::Key next;
+    };
+    QTest::addColumn<QString>("theme");
+    QTest::addColumn<Open>("open");
+    QTest::addColumn<int>("next");
+    const Row rows[] = {{"entry", openEntries, Qt::Key_Down},
+                        {"unit", openUnits, Qt::Key_Down},
+                        {"row of the filter", openFilter, Qt::Key_Down},
+                        {"button of the filter", openFilterButtons, Qt::Key_Tab},
+                        {"entry of the menu", openMenu, Qt::Key_Down},
+                        {"entry of the strip's list", openDropDown, Qt::Key_Down}};
+    for (const QString& theme : resources::themes())
+        for (const Row& row : rows)
+            QTest::newRow(qPrintable(QLatin1String(row.name) + QLatin1Char(' ') + theme))
+                << theme << row.open << int(row.next);
+}
+
+// The ground alone, which differs little between the entries, does not count.
+void tst_FocusVisible::whatIsCurrentInAListStandsOut()
+{
+    QFETCH(QString, theme);
+    QFETCH(Open, open);
+    QFETCH(int, next);
+    QVERIFY(resources::setTheme(theme));
+    MenuPanel panel;
+    QVERIFY(panel.open());
+    const QPointer<QWidget> list = open(panel);
+    QVERIFY(list);
+    const QImage before = list->grab().toImage();
+    panel.press(Qt::Key(next));
+    QVERIFY(list && list->isVisible());
+    const QImage after = list->grab().toImage();
+    // Two frames of two short sides, the one that went and the one that came.
+    constexpr int kLeastPixels = 100;
+    const int found = pixelsThatStandOut(before, after);
+    QVERIFY2(found >= kLeastPixels, qPrintable(QString::number(found)));
+    list->close();
 }
 
 QTEST_MAIN(tst_FocusVisible)

@@ -1,4 +1,4 @@
-#include "EditorPanel.h"
+#include "MenuPanel.h"
 
 #include <QScreen>
 #include <QScrollArea>
@@ -18,18 +18,19 @@ private Q_SLOTS:
     void itGoesWithItsWindow();
     void itIsAwayWhileAnotherWindowIsActive();
     void itFollowsTheRowsOfItsTable();
+    void aRefusalStandsBesideItsRow();
     void itFollowsWhatTheTableIsScrolledIn();
     void itStaysAwayOnceWithdrawn();
 
 private:
     WQ::Notice* wrongNotice(Cell::Cell cell) const;
 
-    std::unique_ptr<EditorPanel> m_panel;
+    std::unique_ptr<MenuPanel> m_panel;
 };
 
 void tst_Notice::init()
 {
-    m_panel = std::make_unique<EditorPanel>();
+    m_panel = std::make_unique<MenuPanel>();
     QVERIFY(m_panel->open());
 }
 
@@ -118,6 +119,31 @@ void tst_Notice::itFollowsTheRowsOfItsTable()
     table.verticalScrollBar()->setValue(0);
     QVERIFY(notice->isVisible());
     QCOMPARE(notice->y(), top);
+}
+
+void tst_Notice::aRefusalStandsBesideItsRow()
+{
+    m_panel->host.move(150, 120);
+    QCoreApplication::processEvents();
+    WQ::CMultiParamsTable& table = *m_panel->table;
+    table.setMinimumSize(0, 0);
+    table.setFixedSize(240, 3 * m_panel->inner().metrics().rowHeight);
+    table.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    QCoreApplication::processEvents();
+    m_panel->paste(Cell::Price, QStringLiteral("abc"));
+    const auto* notice = table.findChild<WQ::Notice*>();
+    QVERIFY(notice && notice->isVisible());
+    const auto row = [&] {
+        const QRect place = m_panel->inner().rowRect(m_panel->cell(Cell::Price));
+        return QRect(table.viewport()->mapToGlobal(place.topLeft()), place.size());
+    };
+    QVERIFY(notice->geometry().left() > row().right());
+    QVERIFY(qAbs(notice->geometry().center().y() - row().center().y()) <= 1);
+    const int before = notice->y();
+    table.verticalScrollBar()->setValue(10);
+    QCOMPARE(notice->y(), before - 10);
+    table.verticalScrollBar()->setValue(table.verticalScrollBar()->maximum());
+    QVERIFY2(!notice->isVisible(), "its row is scrolled out");
 }
 
 void tst_Notice::itFollowsWhatTheTableIsScrolledIn()
