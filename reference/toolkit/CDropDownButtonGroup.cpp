@@ -2,6 +2,7 @@
 
 #include "reference/toolkit/ButtonGroupRules.h"
 #include "reference/toolkit/CDropDownButtonGroupPrivate.h"
+#include "reference/toolkit/GuiThread.h"
 #include "reference/toolkit/IconButton.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
@@ -34,6 +35,7 @@ CDropDownButtonGroup::~CDropDownButtonGroup() = default;
 
 int CDropDownButtonGroup::addButton(CPushButton* button, EWidgetAnchor anchor)
 {
+    checkGuiThread("CDropDownButtonGroup::addButton");
     if (!button || d->find(button->id()))
         return -1;
     const bool shown = !(button->isHidden() && button->testAttribute(Qt::WA_WState_ExplicitShowHide));
@@ -64,6 +66,7 @@ int CDropDownButtonGroup::selectedButton() const
 
 void CDropDownButtonGroup::setCheckedByID(int id)
 {
+    checkGuiThread("CDropDownButtonGroup::setCheckedByID");
     const GroupEntry* entry = d->find(id);
     if (!entry)
         return;
@@ -75,6 +78,7 @@ void CDropDownButtonGroup::setCheckedByID(int id)
 
 void CDropDownButtonGroup::clearAllCheck()
 {
+    checkGuiThread("CDropDownButtonGroup::clearAllCheck");
     const QPointer<CDropDownButtonGroup> self(this);
     d->exclusive->setExclusive(false);
     if (QAbstractButton* checked = d->exclusive->checkedButton())
@@ -87,6 +91,7 @@ void CDropDownButtonGroup::clearAllCheck()
 
 void CDropDownButtonGroup::setVisibleByID(int id, bool visible)
 {
+    checkGuiThread("CDropDownButtonGroup::setVisibleByID");
     if (GroupEntry* entry = d->find(id)) {
         const bool changes = std::exchange(entry->shown, visible) != visible;
         d->layOut();
@@ -97,6 +102,7 @@ void CDropDownButtonGroup::setVisibleByID(int id, bool visible)
 
 void CDropDownButtonGroup::showSelectButton(int id)
 {
+    checkGuiThread("CDropDownButtonGroup::showSelectButton");
     if (GroupEntry* entry = d->find(id)) {
         const bool changes = !std::exchange(entry->shown, true);
         d->brought = id;
@@ -122,6 +128,7 @@ QString CDropDownButtonGroup::getBtnNameByID(int id)
 
 void CDropDownButtonGroup::setHelpButtonVisible(bool visible)
 {
+    checkGuiThread("CDropDownButtonGroup::setHelpButtonVisible");
     if (std::exchange(d->helpVisible, visible) == visible)
         return;
     d->layOut();
@@ -130,6 +137,7 @@ void CDropDownButtonGroup::setHelpButtonVisible(bool visible)
 
 void CDropDownButtonGroup::setHelpButtonCritical(bool critical)
 {
+    checkGuiThread("CDropDownButtonGroup::setHelpButtonCritical");
     if (!critical && !d->help)
         return;
     d->makeHelp();
@@ -147,6 +155,7 @@ QString CDropDownButtonGroup::getParam()
 
 void CDropDownButtonGroup::setParam(QString param)
 {
+    checkGuiThread("CDropDownButtonGroup::setParam");
     const QVector<int> own = getButtonList().toVector();
     QVector<int> listed = numbersOf(param);
     listed.erase(std::remove_if(listed.begin(), listed.end(), [&own](int id) { return !own.contains(id); }),
@@ -167,6 +176,7 @@ void CDropDownButtonGroup::setParam(QString param)
 
 void CDropDownButtonGroup::resetLayout()
 {
+    checkGuiThread("CDropDownButtonGroup::resetLayout");
     d->layOut();
 }
 

@@ -191,11 +191,13 @@ QPair<double, double> CMultiParamsTable::cellRange(int id)
 
 void CMultiParamsTable::resetCellRange(int id, double min, double max)
 {
+    checkGuiThread("CMultiParamsTable::resetCellRange");
     d->change(id, [=](CellItem& cell) { return cell.setLimits(min, max); });
 }
 
 void CMultiParamsTable::setItemDouble(int id, double value)
 {
+    checkGuiThread("CMultiParamsTable::setItemDouble");
     d->change(
         id, [=](CellItem& cell) { return cell.setNumber(value); }, CellChange::Value);
 }
@@ -207,6 +209,7 @@ void CMultiParamsTable::setItemInt(int id, int value)
 
 void CMultiParamsTable::setCheckDouble(int id, bool checked, double value, bool)
 {
+    checkGuiThread("CMultiParamsTable::setCheckDouble");
     d->change(id, [=](CellItem& cell) {
         if (cell.kind() != CellKind::CheckNumber)
             return false;
@@ -217,29 +220,34 @@ void CMultiParamsTable::setCheckDouble(int id, bool checked, double value, bool)
 
 void CMultiParamsTable::setComboData(int id, QVariant value)
 {
+    checkGuiThread("CMultiParamsTable::setComboData");
     changeChoice(*d, id, [&value](ComboCell& cell) { return cell.setData(value); });
 }
 
 void CMultiParamsTable::resetComboData(int id, const QStringList& texts, const QVector<QVariant>& values,
                                        int currentIndex)
 {
+    checkGuiThread("CMultiParamsTable::resetComboData");
     changeChoice(*d, id, [&](ComboCell& cell) { return cell.setEntries(texts, values, currentIndex); });
 }
 
 void CMultiParamsTable::setItemText(int id, QString text)
 {
+    checkGuiThread("CMultiParamsTable::setItemText");
     d->change(
         id, [&text](CellItem& cell) { return cell.setText(text); }, CellChange::Value);
 }
 
 void CMultiParamsTable::setItemName(int id, QString name)
 {
+    checkGuiThread("CMultiParamsTable::setItemName");
     if (d->change(id, [&name](CellItem& cell) { return cell.setLabel(name); }))
         d->labelsChanged();
 }
 
 void CMultiParamsTable::setItemUnit(int id, QString unit)
 {
+    checkGuiThread("CMultiParamsTable::setItemUnit");
     d->change(id, [&](CellItem& cell) {
         const UnitSwitch change(*d, cell);
         const bool seen = cell.setUnit(unit);
@@ -250,6 +258,7 @@ void CMultiParamsTable::setItemUnit(int id, QString unit)
 
 void CMultiParamsTable::setItemUnit(int id, QString unit, double min, double max, double step, bool makeCurrent)
 {
+    checkGuiThread("CMultiParamsTable::setItemUnit");
     d->change(id, [&](CellItem& cell) {
         const UnitSwitch change(*d, cell);
         const bool seen = cell.setUnit(unit, min, max, step, makeCurrent);
@@ -260,19 +269,24 @@ void CMultiParamsTable::setItemUnit(int id, QString unit, double min, double max
 
 void CMultiParamsTable::setItemTick(int id, QString unit, double step)
 {
+    checkGuiThread("CMultiParamsTable::setItemTick");
     d->change(id, [&](CellItem& cell) { return cell.setTick(unit, step); });
 }
 
 void CMultiParamsTable::setItemEditable(int id, bool editable)
 {
+    checkGuiThread("CMultiParamsTable::setItemEditable");
     d->change(id, [=](CellItem& cell) { return cell.setEditable(editable); });
 }
 
+// Rules hide the same cells again and again: what changes nothing is not worth a look at the thread.
 void CMultiParamsTable::setItemHidden(int id, bool hidden)
 {
     CellItem* cell = d->model().cell(id);
-    if (cell && cell->setHidden(hidden))
-        d->model().touchRows();
+    if (!cell || !cell->setHidden(hidden))
+        return;
+    checkGuiThread("CMultiParamsTable::setItemHidden");
+    d->model().touchRows();
 }
 
 } // namespace WQ

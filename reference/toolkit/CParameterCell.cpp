@@ -2,6 +2,7 @@
 
 #include "reference/toolkit/AccessibleCell.h"
 #include "reference/toolkit/CParameterCellPrivate.h"
+#include "reference/toolkit/GuiThread.h"
 #include "reference/toolkit/Painting.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
@@ -27,27 +28,32 @@ CParameterCell::~CParameterCell() = default;
 
 void CParameterCell::setDoubleValidator(const QString& message, double min, double max, double step)
 {
+    checkGuiThread("CParameterCell::setDoubleValidator");
     d->rule = {true, message, min, max, step};
     d->judge();
 }
 
 void CParameterCell::setDouble(double value)
 {
+    checkGuiThread("CParameterCell::setDouble");
     d->set(CParameterCellPrivate::Holds::Double, value, QString());
 }
 
 void CParameterCell::setInt(int value)
 {
+    checkGuiThread("CParameterCell::setInt");
     d->set(CParameterCellPrivate::Holds::Int, value, QString());
 }
 
 void CParameterCell::setString(const QString& text)
 {
+    checkGuiThread("CParameterCell::setString");
     d->set(CParameterCellPrivate::Holds::Text, 0, text);
 }
 
 void CParameterCell::setUnit(const QString& unit)
 {
+    checkGuiThread("CParameterCell::setUnit");
     d->unit = unit;
     d->placeEditor();
     update();
@@ -55,12 +61,14 @@ void CParameterCell::setUnit(const QString& unit)
 
 void CParameterCell::setEditFontKey(const QString& key)
 {
+    checkGuiThread("CParameterCell::setEditFontKey");
     d->valueFontKey = key;
     update();
 }
 
 void CParameterCell::setTextFontKey(const QString& key)
 {
+    checkGuiThread("CParameterCell::setTextFontKey");
     d->labelFontKey = key;
     update();
 }

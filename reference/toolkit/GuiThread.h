@@ -12,9 +12,15 @@ namespace WQ {
 inline void checkGuiThread([[maybe_unused]] const char* operation)
 {
 #ifndef QT_NO_DEBUG
+    // Setters are called by the dozen: the thread that was right before is asked for nothing else.
+    static std::atomic<Qt::HANDLE> right{nullptr};
     static std::atomic<bool> said{false};
+    if (right.load(std::memory_order_relaxed) == QThread::currentThreadId())
+        return;
     const QCoreApplication* application = QCoreApplication::instance();
-    if (application && application->thread() != QThread::currentThread() && !said.exchange(true))
+    if (application && application->thread() == QThread::currentThread())
+        right = QThread::currentThreadId();
+    else if (application && !said.exchange(true))
         qWarning("%s: called outside the GUI thread", operation);
 #endif
 }
