@@ -1,6 +1,6 @@
 # The headers of the platform contract that moc must see, once for each target that implements the contract: they belong
-# into its sources, and WQ_BUILDING into its definitions.
-set(orderparam_platform_folder "${PROJECT_SOURCE_DIR}/OrderParamTable_mini/platform")
+# into its sources, and WQ_BUILDING into its definitions. A client's own platform project includes this file as well.
+get_filename_component(orderparam_platform_folder "${CMAKE_CURRENT_LIST_DIR}/../OrderParamTable_mini/platform" ABSOLUTE)
 set(orderparam_platform_headers
     ${orderparam_platform_folder}/TC/CUserConfig.h
     ${orderparam_platform_folder}/WQ/CBaseDialog.h

@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Installs the build into a prefix, moves the prefix, and looks at what lies there.
+. "$(dirname "$0")/packaging.sh"
+
+rm -rf "$scratch/installed" "$prefix"
+mkdir -p "$scratch"
+cmake --install "$build" --prefix "$scratch/installed" > "$scratch/install.log" || { cat "$scratch/install.log"; exit 1; }
+mv "$scratch/installed" "$prefix"
+
+# The headers of the exported classes and of the platform, and what a host may say to the reference platform.
+headers=$(cd "$prefix/include" && find . -type f | sed 's|^\./||' | LC_ALL=C sort)
+diff <(LC_ALL=C sort "$here/expected/headers.txt") <(echo "$headers") || fail "the headers are others"
+for file in bin/orderparam-workbench bin/orderparam-replay share/orderparam/{accounts,tasks}.json \
+    share/orderparam/orderparam.ini share/man/man1/orderparam-{workbench,replay}.1.gz \
+    share/applications/orderparam-workbench.desktop share/doc/OrderParamTable_mini/{README.md,LICENSE} \
+    "$libdir"/lib{OrderParamTable_mini,orderparam_reference}.so \
+    "$libdir"/cmake/OrderParamTable_mini/OrderParamTable_mini{Config,ConfigVersion,Targets}.cmake \
+    "$libdir"/pkgconfig/OrderParamTable_mini{,-reference}.pc; do
+    [[ -e $prefix/$file ]] || fail "$file is missing"
+done
+
+# A moved prefix still holds together: nothing looks for the build, and the programs find their libraries.
+for file in "$prefix"/bin/* "$prefix/$libdir"/*.so; do
+    path=$(readelf -d "$file" | sed -n 's/.*R\(UN\)\?PATH.*\[\(.*\)\]/\2/p')
+    [[ $path == '$ORIGIN'* && $path != *:* ]] || fail "$(basename "$file") looks for its libraries in '$path'"
+done
+if grep -rlF "$source" "$prefix/$libdir/cmake" "$prefix/$libdir/pkgconfig"; then
+    fail "these name the source tree"
+fi
+for program in workbench replay; do
+    output=$("$prefix/bin/orderparam-$program" --version 2>&1) || fail "orderparam-$program: $output"
+    [[ $output == *"orderparam-$program 0.1.0"* ]] || fail "orderparam-$program calls itself $output"
+done
+! command -v man >/dev/null || ! man --warnings -l "$prefix"/share/man/man1/*.gz 2>&1 >/dev/null | grep . || fail "man warns"
+
+finish "The installed prefix can be moved."

@@ -1,0 +1,44 @@
+# shellcheck shell=bash disable=SC2034
+# Shared by the tests of this folder, which source it. They are called with the scratch folder, which lies outside the
+# tree, and a file of the settings of the build under test:
+#
+#   build, source, compiler, flags (of the sanitizers), libdir, launcher (of the compiler)
+set -euo pipefail
+
+scratch=$1
+. "$2"
+prefix=$scratch/prefix
+here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
+failures=0
+
+fail() {
+    printf 'FAIL: %s\n' "$*"
+    failures=$((failures + 1))
+}
+
+# The test's last line: fails when anything has.
+finish() {
+    [[ $failures == 0 ]] || { echo "$failures checks failed"; exit 1; }
+    echo "$1"
+}
+
+# built PROJECT [CMAKE-ARGUMENT...]: configures and builds a copy of PROJECT, which then knows nothing of this tree. A copy
+# that has not changed is not built again.
+built() {
+    local name
+    name=$(basename "$1")
+    mkdir -p "$scratch/projects"
+    cp -ru "$1" "$scratch/projects/"
+    cmake -S "$scratch/projects/$name" -B "$scratch/builds/$name" -G Ninja -DCMAKE_CXX_COMPILER="$compiler" \
+        -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Werror" "${@:2}" \
+        > "$scratch/$name.log" 2>&1 || { cat "$scratch/$name.log"; echo "FAIL: $name is not configured"; exit 1; }
+    cmake --build "$scratch/builds/$name" > "$scratch/$name.log" 2>&1 \
+        || { cat "$scratch/$name.log"; echo "FAIL: $name is not built"; exit 1; }
+}
+
+# says NAME EXPECTED PROGRAM [ARGUMENT...]: what a program writes is what the file EXPECTED holds.
+says() {
+    local written=$scratch/$1.written
+    "${@:3}" > "$written" || fail "$1 ended with status $?"
+    diff -u "$2" "$written" || fail "$1 wrote something else"
+}
