@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Renders the pictures that the documents show anew, from the tour.
+# Renders the pictures that the documents show anew: panels from the tour, the folders from their arrows.
 
 . "$(dirname "$(readlink -f "$0")")/common.sh"
 
@@ -10,10 +10,22 @@ pictures=(
     "workbench.png|window-zh-dark-1.00.png"
 )
 
+ensure_packages graphviz optipng
 tour=$(mktemp -d "${TMPDIR:-/tmp}/orderparam-tour.XXXXXX")
 trap 'rm -rf "$tour"' EXIT
 step "rendering the tour" ./run.sh --tour "$tour" "$@"
 for row in "${pictures[@]}"; do
     cp "$tour/${row#*|}" "docs/pictures/${row%|*}" || fail "the tour has no picture ${row#*|}"
 done
+
+# Every panel that docs/panels.md shows, in the default theme.
+mkdir -p docs/pictures/panels
+rm -f docs/pictures/panels/*.png
+grep -o 'pictures/panels/[a-z0-9-]*\.png' docs/panels.md | sort -u | while read -r picture; do
+    name=$(basename "$picture" .png)
+    cp "$tour/$name-dark-1.00.png" "docs/$picture" || fail "the tour has no picture $name-dark-1.00.png"
+done
+step "making the pictures small" optipng -quiet -o2 docs/pictures/*.png docs/pictures/panels/*.png
+
+cmake -P cmake/FolderPicture.cmake | dot -Tsvg >docs/pictures/folders.svg
 echo "The pictures in docs/pictures are new."

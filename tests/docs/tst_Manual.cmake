@@ -1,0 +1,47 @@
+# Doxygen has nothing to say about the public headers, every exported class is in the manual, and the settings do find what
+# is left undocumented.
+
+function(warnings_of doxyfile more out)
+    file(READ "${doxyfile}" settings)
+    file(MAKE_DIRECTORY "${SCRATCH}")
+    file(WRITE "${SCRATCH}/Doxyfile"
+        "${settings}\nOUTPUT_DIRECTORY = \"${SCRATCH}\"\nWARN_LOGFILE = \"${SCRATCH}/warnings.log\"\n${more}")
+    execute_process(COMMAND "${DOXYGEN}" "${SCRATCH}/Doxyfile" RESULT_VARIABLE status OUTPUT_QUIET ERROR_VARIABLE said)
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "Doxygen ended with ${status}: ${said}")
+    endif()
+    file(READ "${SCRATCH}/warnings.log" log)
+    set(${out} "${log}" PARENT_SCOPE)
+endfunction()
+
+file(REMOVE_RECURSE "${SCRATCH}")
+file(WRITE "${SCRATCH}/headers/Thin.h" "/// A class.\nclass Thin\n{\npublic:\n    void unsaid();\n"
+    "    /// Takes something.\n    void halfSaid(int what);\n    /// Answers.\n    int answer();\n};\n")
+warnings_of("${DOXYFILE}" "INPUT = \"${SCRATCH}/headers\"\nGENERATE_HTML = NO\n" found)
+foreach(lack IN ITEMS "unsaid" "halfSaid" "answer")
+    if(NOT found MATCHES "${lack}")
+        message(FATAL_ERROR "The settings do not find what ${lack}() leaves out:\n${found}")
+    endif()
+endforeach()
+
+warnings_of("${DOXYFILE}" "" found)
+if(NOT found STREQUAL "")
+    message(FATAL_ERROR "Doxygen's log is not empty:\n${found}")
+endif()
+
+file(READ "${SCRATCH}/html/annotated.html" listed)
+file(GLOB_RECURSE headers "${ROOT}/OrderParamTable_mini/*.h")
+set(classes 0)
+foreach(header IN LISTS headers)
+    file(STRINGS "${header}" declared REGEX "^class (ORDERPARAMTABLE|WQ)_EXPORT [A-Za-z0-9]+( |$)")
+    foreach(line IN LISTS declared)
+        string(REGEX REPLACE "^class [A-Z_]+ ([A-Za-z0-9]+).*" "\\1" class "${line}")
+        math(EXPR classes "${classes} + 1")
+        if(NOT listed MATCHES ">${class}<")
+            message(FATAL_ERROR "${class} is not in the manual")
+        endif()
+    endforeach()
+endforeach()
+if(classes LESS 20)
+    message(FATAL_ERROR "Only ${classes} classes were looked for")
+endif()
