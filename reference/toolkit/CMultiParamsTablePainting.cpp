@@ -64,6 +64,7 @@ void CMultiParamsTablePrivate::paint(QPaintEvent* event)
     const QRect dirty = event->rect();
     CellPainter cells(painter, m_metrics, dirty);
     paintRows(cells, dirty, isOnScreen(*m_table, painter));
+    m_model->painted();
     if (event->region().rectCount() > 1)
         m_painted.clear();
     const QRect footer = footerRect();
@@ -88,19 +89,41 @@ void CMultiParamsTablePrivate::paintRows(CellPainter& cells, const QRect& dirty,
     for (int row = first; row <= last; ++row) {
         const QRect rect = rowRect(row);
         const CellItem& cell = *m_model->cellAtRow(row);
+        if (onScreen && paintValueAlone(cells, row, cell, dirty))
+            continue;
         const RowLayout layout = layoutRow(cell, rect, m_metrics, column);
         if (onScreen)
-            notePainted(row, paintedValue(cell, layout), dirty);
+            notePainted(row, paintedValue(layout), dirty);
         cells.paintRow(rect, cell, layout, rowState(cell));
     }
 }
 
-CMultiParamsTablePrivate::PaintedValue CMultiParamsTablePrivate::paintedValue(const CellItem& cell,
-                                                                              const RowLayout& layout)
+CMultiParamsTablePrivate::PaintedValue CMultiParamsTablePrivate::paintedValue(const RowLayout& layout)
 {
-    const bool isPlain = !layout.elided && layout.check.isEmpty() && cell.offGridText().isEmpty();
+    const bool isPlain = !layout.elided && layout.check.isEmpty() && !layout.offGrid;
     const QRect room(layout.value.left(), 0, layout.value.width(), layout.value.height());
-    return isPlain ? PaintedValue{true, room, layout.valueText} : PaintedValue();
+    return isPlain ? PaintedValue{true, room, layout.valueText, layout.valueText, QRect()} : PaintedValue();
+}
+
+// Most paints are of one value that has changed: what stands around it needs no new layout.
+bool CMultiParamsTablePrivate::paintValueAlone(CellPainter& cells, int row, const CellItem& cell, const QRect& dirty)
+{
+    PaintedValue& known = m_painted[static_cast<std::size_t>(row)];
+    const QRect whole = rowRect(row);
+    RowLayout layout;
+    layout.value = known.room.translated(0, whole.top());
+    // Of the gaps at its sides, half may be reached by a glyph of the value and none by one of its neighbours.
+    const int reach = m_metrics.gap / 2;
+    if (!known.isSet || !layout.value.adjusted(-reach, 0, reach, 0).contains(dirty))
+        return false;
+    layout.valueText = known.next;
+    cells.paintRow(whole, cell, layout, rowState(cell));
+    if (dirty.contains(known.changed.translated(0, whole.top())))
+        known.text = known.next;
+    else if (!known.changed.isEmpty())
+        known = PaintedValue();
+    known.changed = QRect();
+    return true;
 }
 
 // A paint of less than what has changed leaves the row without a painted value to start from.
@@ -109,8 +132,8 @@ void CMultiParamsTablePrivate::notePainted(int row, const PaintedValue& value, c
     PaintedValue& known = m_painted[static_cast<std::size_t>(row)];
     const QRect whole = rowRect(row);
     const bool isSamePlace = known.isSet && value.isSet && known.room == value.room;
-    if (dirty.contains(whole)
-        || (isSamePlace && dirty.contains(valueRect(known, value.text).translated(0, whole.top()))))
+    const bool isNext = isSamePlace && known.next == value.text;
+    if (dirty.contains(whole) || (isNext && dirty.contains(known.changed.translated(0, whole.top()))))
         known = value;
     else if (!isSamePlace || known.text != value.text)
         known = PaintedValue();
@@ -124,23 +147,28 @@ QRect CMultiParamsTablePrivate::changedRect(int row)
     if (!cell || static_cast<std::size_t>(row) >= m_painted.size())
         return whole;
     PaintedValue& painted = m_painted[static_cast<std::size_t>(row)];
-    const QString text = texts::oneLine(cell->displayText());
-    const bool isValueAlone = painted.isSet && cell->announcedChange() == CellChange::Value
-        && cell->offGridText().isEmpty() && texts::width(text, *m_metrics.face) <= painted.room.width();
-    if (!isValueAlone) {
+    const bool isValueAlone =
+        painted.isSet && cell->announcedChange() == CellChange::Value && cell->offGridText().isEmpty();
+    if (!isValueAlone || !takeNext(painted, texts::oneLine(cell->displayText()))) {
         painted = PaintedValue();
         return whole;
     }
-    return valueRect(painted, text).translated(0, whole.top());
+    return painted.changed.translated(0, whole.top());
 }
 
-QRect CMultiParamsTablePrivate::valueRect(const PaintedValue& painted, const QString& text) const
+// False for a text that would move what stands beside it.
+bool CMultiParamsTablePrivate::takeNext(PaintedValue& painted, const QString& text) const
 {
+    const QRect& room = painted.room;
+    const int width = texts::width(text, *m_metrics.face);
+    if (width > room.width())
+        return false;
     const auto difference = m_metrics.face->difference(painted.text, text);
-    if (!difference)
-        return painted.room;
-    const int left = painted.room.right() + 1 - texts::width(text, *m_metrics.face) + difference->left;
-    return QRect(left, painted.room.top(), difference->width, painted.room.height());
+    painted.next = text;
+    painted.changed = !difference
+        ? room
+        : QRect(room.right() + 1 - width + difference->left, room.top(), difference->width, room.height());
+    return true;
 }
 
 void CMultiParamsTablePrivate::rowsChanged(int first, int last)

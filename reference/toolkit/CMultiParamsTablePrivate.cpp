@@ -68,6 +68,7 @@ void CMultiParamsTablePrivate::connectModel()
     QObject::connect(m_model, &CellModel::filterChanged, m_table, [this] { filterChanged(); });
     QObject::connect(m_model, &CellModel::filterLookChanged, m_table, [this] { updateFooter(); });
     QObject::connect(m_model, &CellModel::rowsReplaced, m_table, [this] {
+        m_painted.clear();
         placeSections();
         takeNeededHeight();
         layout();
@@ -160,7 +161,6 @@ void CMultiParamsTablePrivate::takeNeededHeight()
 
 void CMultiParamsTablePrivate::layout()
 {
-    m_painted.clear();
     placeColumns();
     QScrollBar* scroll = m_table->verticalScrollBar();
     // The viewport's height is what a style sheet's frame leaves, until the table takes the frame back: a range that
@@ -185,6 +185,7 @@ void CMultiParamsTablePrivate::takeScale()
     if (qFuzzyCompare(scale, m_metrics.scale))
         return;
     m_metrics = RowMetrics(scale);
+    m_painted.clear();
     m_widestLabel = -1;
     takeRowHeight();
     placeSections();

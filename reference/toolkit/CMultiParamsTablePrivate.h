@@ -160,13 +160,16 @@ private:
         bool isSet = false;
         QRect room; ///< of the value, in its row; the text stands at its right end
         QString text;
+        QString next;  ///< what the next paint shows
+        QRect changed; ///< where that differs from the text, in its row
     };
 
     int rowTop(int row) const;
     void paintRows(CellPainter& cells, const QRect& dirty, bool onScreen);
-    static PaintedValue paintedValue(const CellItem& cell, const RowLayout& layout);
+    static PaintedValue paintedValue(const RowLayout& layout);
+    bool paintValueAlone(CellPainter& cells, int row, const CellItem& cell, const QRect& dirty);
     void notePainted(int row, const PaintedValue& value, const QRect& dirty);
-    QRect valueRect(const PaintedValue& painted, const QString& text) const;
+    bool takeNext(PaintedValue& painted, const QString& text) const;
     QRect changedRect(int row);
     void connectModel();
     void placeSections();

@@ -92,7 +92,11 @@ void CellModel::touch(CellItem* cell, CellChange change)
     m_choices.erase(std::remove_if(m_choices.begin(), m_choices.end(), isIt), m_choices.end());
     cell->m_touched = std::max(cell->m_touched, change);
     m_valuesDirty = true;
-    schedule();
+    const bool isAlone = change == CellChange::Value && !m_scheduled && !m_flushing;
+    if (isAlone && !std::exchange(m_toldAtOnce, true))
+        flush();
+    else
+        schedule();
 }
 
 void CellModel::touchChoice(CellItem* cell, const QString& before)
@@ -200,25 +204,29 @@ void CellModel::replaceRows(const std::vector<int>& rows)
     }
 }
 
-// What is announced is taken first: whoever hears of it may change cells again.
+// What is announced is taken first: whoever hears of it may change cells again. Rows stay as they are meanwhile.
 void CellModel::announceValues()
 {
     dropUndoneChoices();
-    for (const auto& item : m_items)
-        item->cell()->m_announced = std::exchange(item->cell()->m_touched, CellChange::None);
-    const auto isChanged = [this](int row) { return cellAtRow(row)->announcedChange() != CellChange::None; };
-    std::vector<std::pair<int, int>> runs;
-    const int rows = static_cast<int>(m_rows.size());
-    for (int row = 0; row < rows; ++row) {
-        if (!isChanged(row))
-            continue;
-        if (!runs.empty() && runs.back().second == row - 1)
-            runs.back().second = row;
-        else
-            runs.emplace_back(row, row);
+    for (const auto& item : m_items) {
+        CellItem& cell = *item->cell();
+        cell.m_announced = std::exchange(cell.m_touched, CellChange::None);
     }
-    for (const auto& run : runs)
-        Q_EMIT dataChanged(index(run.first, LabelColumn), index(run.second, ValueColumn));
+    const int rows = static_cast<int>(m_rows.size());
+    for (int first = 0; first < rows; ++first) {
+        int end = first;
+        while (end < rows && isAnnounced(end))
+            ++end;
+        if (end > first)
+            Q_EMIT dataChanged(index(first, LabelColumn), index(end - 1, ValueColumn));
+        first = end;
+    }
+}
+
+bool CellModel::isAnnounced(int row) const
+{
+    const auto position = static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)]);
+    return m_items[position]->cell()->m_announced != CellChange::None;
 }
 
 int CellModel::rowCount(const QModelIndex& parent) const

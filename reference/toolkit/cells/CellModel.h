@@ -105,6 +105,13 @@ public:
     /// What a row's tooltip says, asked with the cell; without it the note of a value off its grid.
     void setToolTipSource(std::function<QString(const CellItem&)> source);
 
+    /// To be called by the view when it paints: the next value that changes alone is told at once. What follows it
+    /// before the next paint is gathered, as anything but a value is.
+    void painted()
+    {
+        m_toldAtOnce = false;
+    }
+
     /// Tells the views what has changed since the last time: rows first, then values, one signal each where possible.
     void flush();
 
@@ -134,6 +141,7 @@ private:
     std::vector<int> shownPositions() const;
     void replaceRows(const std::vector<int>& rows);
     void announceValues();
+    bool isAnnounced(int row) const;
 
     std::vector<std::unique_ptr<CMultiParamsTableItem>> m_items;
     std::vector<std::pair<int, int>> m_positions; // ID and position, sorted by ID
@@ -150,6 +158,7 @@ private:
     bool m_valuesDirty = false;
     bool m_filterDirty = false;
     bool m_scheduled = false;
+    bool m_toldAtOnce = true;
     bool m_flushing = false;
     std::pair<bool, bool> m_filterLook = filterLook(); // as last told
 };

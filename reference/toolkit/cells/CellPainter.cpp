@@ -139,7 +139,7 @@ CellPainter::CellPainter(QPainter& painter, const RowMetrics& metrics, const QRe
     , m_metrics(metrics)
     , m_dirty(dirty)
     , m_grid(painter)
-    , m_pen(painter, *metrics.face, m_grid.pictureRatio())
+    , m_pen(painter, *metrics.face, m_grid.pictureRatio(), dirty)
 {
 }
 
@@ -151,7 +151,7 @@ void CellPainter::paintRow(const QRect& row, const CellItem& cell, const RowLayo
         m_grid.fillBottomLine(m_painter, row, palette().separator);
     paintTexts(layout, state, ground);
     paintCheck(cell, layout, state.enabled, ground);
-    paintMarks(row, cell, state);
+    paintMarks(row, layout.offGrid, state);
 }
 
 void CellPainter::paintTexts(const RowLayout& layout, const RowState& state, const QColor& ground)
@@ -174,9 +174,9 @@ void CellPainter::paintCheck(const CellItem& cell, const RowLayout& layout, bool
     drawText(text, layout.checkText, labelColor(enabled), ground);
 }
 
-void CellPainter::paintMarks(const QRect& row, const CellItem& cell, const RowState& state)
+void CellPainter::paintMarks(const QRect& row, bool offGrid, const RowState& state)
 {
-    if (!cell.offGridText().isEmpty()) {
+    if (offGrid) {
         const QRectF bar(row.left(), row.top(), m_metrics.bar, row.height() - 1);
         m_painter.fillRect(m_grid.aligned(bar), palette().notice);
     }

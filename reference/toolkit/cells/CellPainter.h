@@ -52,7 +52,7 @@ public:
 private:
     void paintTexts(const RowLayout& layout, const RowState& state, const QColor& ground);
     void paintCheck(const CellItem& cell, const RowLayout& layout, bool enabled, const QColor& ground);
-    void paintMarks(const QRect& row, const CellItem& cell, const RowState& state);
+    void paintMarks(const QRect& row, bool offGrid, const RowState& state);
     void drawText(const QRect& area, const QString& text, const QColor& color, const QColor& ground,
                   bool right = false);
     void drawImage(const QString& key, const QColor& tint, const QRect& rect);

@@ -34,6 +34,7 @@ public:
         placeChevron();
         placeUnit();
         placeTexts();
+        m_layout.offGrid = !m_cell.offGridText().isEmpty();
         return m_layout;
     }
 

@@ -43,7 +43,8 @@ struct RowLayout
     QString checkText;
     QString valueText;
     QString unitText;
-    bool elided = false; ///< whether any text is
+    bool elided = false;  ///< whether any text is
+    bool offGrid = false; ///< whether the value is marked as off its grid
 
     /// Unit and chevron together: what a click opens the list of units on.
     QRect unitArea() const

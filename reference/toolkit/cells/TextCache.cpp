@@ -149,10 +149,11 @@ QString oneLine(const QString& text)
     return line;
 }
 
-Pen::Pen(QPainter& painter, const Face& face, int pictureRatio)
+Pen::Pen(QPainter& painter, const Face& face, int pictureRatio, const QRect& seen)
     : m_painter(painter)
     , m_face(face)
     , m_pictureRatio(pictureRatio)
+    , m_seen(seen)
 {
 }
 
@@ -168,7 +169,7 @@ void Pen::draw(const QRect& area, const QString& text, const QColor& color, cons
     }
     m_painter.setPen(color);
     if (isNumber)
-        m_face.drawNumber(m_painter, position, text);
+        m_face.drawNumber(m_painter, position, text, TextSpan{m_seen.left() - position.x(), m_seen.width()});
     else
         drawDirectly(position, text);
 }

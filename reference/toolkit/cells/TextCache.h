@@ -29,14 +29,17 @@ WQ_EXPORT QString oneLine(const QString& text);
 class WQ_EXPORT Pen
 {
 public:
-    /// @p pictureRatio as DeviceGrid has it for the painter.
-    Pen(QPainter& painter, const Face& face, int pictureRatio);
+    /// @p pictureRatio as DeviceGrid has it for the painter. What lies outside of @p seen may be left out.
+    Pen(QPainter& painter, const Face& face, int pictureRatio, const QRect& seen = kEverywhere);
 
     /// Draws @p text from the left of @p area, in the middle of its height. The area and the little around it that a
     /// glyph may reach into are filled with @p ground already.
     void draw(const QRect& area, const QString& text, const QColor& color, const QColor& ground);
 
 private:
+    // No coordinate of a widget is out of it, and none of it overflows.
+    static constexpr QRect kEverywhere = QRect(-(1 << 24), -(1 << 24), 1 << 25, 1 << 25);
+
     void drawPicture(const QPoint& position, const QRect& area, const QString& text, const QColor& color,
                      const QColor& ground);
     void drawDirectly(const QPoint& position, const QString& text);
@@ -44,6 +47,7 @@ private:
     QPainter& m_painter;
     const Face& m_face;
     const int m_pictureRatio;
+    const QRect m_seen;
     bool m_fontSet = false;
 };
 

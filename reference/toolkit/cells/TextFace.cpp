@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
-#include <QGlyphRun>
 #include <QHash>
 #include <QPainter>
 
@@ -75,6 +74,7 @@ Face::Face(const QFont& font)
     , m_height(QFontMetrics(font).height())
     , m_ascent(QFontMetrics(font).ascent())
 {
+    m_run.setRawFont(m_raw);
     if (!takeGlyphs())
         m_glyphs.fill(0);
 }
@@ -96,14 +96,14 @@ bool Face::takeGlyphs()
     return qFuzzyCompare(QFontMetricsF(m_font).horizontalAdvance(pairs), numberWidth(pairs));
 }
 
-bool Face::isNumber(const QString& text) const
+bool Face::isNumber(QStringView text) const
 {
     return text.size() <= kLongestNumber && std::all_of(text.begin(), text.end(), [this](QChar c) {
                return c.unicode() < kNumberCharacters && m_glyphs[static_cast<std::size_t>(c.unicode())] != 0;
            });
 }
 
-qreal Face::numberWidth(const QString& text) const
+qreal Face::numberWidth(QStringView text) const
 {
     qreal width = 0;
     for (const QChar c : text)
@@ -118,27 +118,29 @@ std::optional<TextSpan> Face::difference(const QString& one, const QString& othe
         return std::nullopt;
     const auto first = std::mismatch(one.begin(), one.end(), other.begin(), other.end()).first;
     const auto last = std::mismatch(one.rbegin(), one.rend(), other.rbegin(), other.rend()).first;
-    const qreal left = numberWidth(one.left(static_cast<int>(first - one.begin())));
-    const qreal right = numberWidth(one) - numberWidth(one.right(static_cast<int>(last - one.rbegin())));
+    const qreal left = numberWidth(QStringView(one).left(first - one.begin()));
+    const qreal right = numberWidth(QStringView(one).chopped(last - one.rbegin()));
     const int from = static_cast<int>(std::floor(left)) - kOverhang;
     return TextSpan{from, static_cast<int>(std::ceil(right)) + kOverhang - from};
 }
 
-void Face::drawNumber(QPainter& painter, const QPoint& position, const QString& text) const
+void Face::drawNumber(QPainter& painter, const QPoint& position, const QString& text, const TextSpan& seen) const
 {
     std::array<quint32, kLongestNumber> glyphs;
     std::array<QPointF, kLongestNumber> places;
+    std::size_t count = 0;
     qreal left = 0;
-    for (int i = 0; i < text.size(); ++i) {
-        const auto character = static_cast<std::size_t>(text.at(i).unicode());
-        glyphs[static_cast<std::size_t>(i)] = m_glyphs[character];
-        places[static_cast<std::size_t>(i)] = QPointF(left, 0);
-        left += m_advances[character];
+    for (const QChar c : text) {
+        const auto character = static_cast<std::size_t>(c.unicode());
+        const qreal right = left + m_advances[character];
+        if (right + kOverhang >= seen.left && left - kOverhang <= seen.left + seen.width) {
+            glyphs[count] = m_glyphs[character];
+            places[count++] = QPointF(left, 0);
+        }
+        left = right;
     }
-    QGlyphRun run;
-    run.setRawFont(m_raw);
-    run.setRawData(glyphs.data(), places.data(), text.size());
-    painter.drawGlyphRun(position + QPoint(0, m_ascent), run);
+    m_run.setRawData(glyphs.data(), places.data(), static_cast<int>(count));
+    painter.drawGlyphRun(position + QPoint(0, m_ascent), m_run);
 }
 
 const Face& faceOf(const QFont& font)

@@ -3,8 +3,10 @@
 #include <WQ/WqExport.h>
 
 #include <QFont>
+#include <QGlyphRun>
 #include <QRawFont>
 #include <QString>
+#include <QStringView>
 
 #include <array>
 #include <optional>
@@ -41,16 +43,17 @@ public:
 
     /// Whether @p text is one of a number: digits, signs, points, commas, colons and blanks, of one glyph each that
     /// stands where the one before it ends. Such a text needs no shaping, which is the most that a new text costs.
-    bool isNumber(const QString& text) const;
+    bool isNumber(QStringView text) const;
 
     /// The width of a text that isNumber().
-    qreal numberWidth(const QString& text) const;
+    qreal numberWidth(QStringView text) const;
 
     /// Where two numbers that start at the same place are not the same to the pixel; nothing where all may differ.
     std::optional<TextSpan> difference(const QString& one, const QString& other) const;
 
-    /// Draws a text that isNumber() in the painter's pen, its top left corner at @p position.
-    void drawNumber(QPainter& painter, const QPoint& position, const QString& text) const;
+    /// Draws a text that isNumber() in the painter's pen, its top left corner at @p position. Characters out of
+    /// @p seen may be left out.
+    void drawNumber(QPainter& painter, const QPoint& position, const QString& text, const TextSpan& seen) const;
 
 private:
     static constexpr int kNumberCharacters = 64; // all of them are below
@@ -59,6 +62,7 @@ private:
 
     QFont m_font;
     QRawFont m_raw;
+    mutable QGlyphRun m_run;                           // holds no glyphs but while it is drawn
     std::array<quint32, kNumberCharacters> m_glyphs{}; // 0: not of a number
     std::array<qreal, kNumberCharacters> m_advances{};
     int m_height;

@@ -4,6 +4,7 @@
 
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QScrollBar>
 #include <QWindow>
 
 using namespace table_fixture;
@@ -111,7 +112,7 @@ void tst_CMultiParamsTableValues::whatIsOnTheScreenIsTrueAfterAnyChange()
     for (int step = 0; step < 300; ++step) {
         const int id = random.bounded(kCombo, kText);
         const double value = random.bounded(2) ? random.bounded(100) * 100 : random.generateDouble() * 1e6;
-        switch (random.bounded(8)) {
+        switch (random.bounded(12)) {
         case 0:
             table.setItemUnit(id, random.bounded(2) ? QStringLiteral("%") : QStringLiteral("元"));
             break;
@@ -123,6 +124,15 @@ void tst_CMultiParamsTableValues::whatIsOnTheScreenIsTrueAfterAnyChange()
             break;
         case 3:
             table.setItemName(id, QString(random.bounded(1, 12), QChar(0x5355)));
+            break;
+        case 4:
+            table.setFixedSize(random.bounded(180, 240), random.bounded(90, 220));
+            break;
+        case 5:
+            table.verticalScrollBar()->setValue(random.bounded(130));
+            break;
+        case 6:
+            table.setColumnWidth(0, random.bounded(60, 140));
             break;
         default:
             table.setItemDouble(id, value);
