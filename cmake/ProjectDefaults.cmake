@@ -42,3 +42,12 @@ function(orderparam_defaults target)
         target_link_options(${target} PRIVATE -Wl,--no-undefined)
     endif()
 endfunction()
+
+# orderparam_exports(TARGET MAP): a shared library offers no more than its linker map names. The sanitizers and the
+# coverage counters share symbols of their own between libraries.
+function(orderparam_exports target map)
+    if(NOT ORDERPARAM_SANITIZE AND NOT ORDERPARAM_COVERAGE)
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${map}")
+        set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
+    endif()
+endfunction()
