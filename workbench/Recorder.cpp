@@ -3,6 +3,7 @@
 #include "workbench/PanelHost.h"
 #include "workbench/StepMaking.h"
 
+#include "reference/services/ServiceControl.h"
 #include "replay/Host.h"
 
 #include <algorithm>
@@ -222,6 +223,10 @@ void Recorder::start()
     m_recording.steps = {answeredStep({{"do", "reset"}}), answeredStep(clockCommand())};
     for (const WayStep& way : m_way)
         m_recording.steps.push_back(way.step);
+    // One that was frozen on the way has gone on since.
+    const auto isClock = [](const WayStep& way) { return nameOf(way.step->command) == "clock"; };
+    if (!reference::frozenClock() && std::any_of(m_way.begin(), m_way.end(), isClock))
+        m_recording.steps.push_back(answeredStep(clockCommand()));
     m_recording.preparation = m_recording.steps.size();
     m_remark.clear();
     m_isRecording = true;
@@ -243,6 +248,11 @@ void Recorder::stop()
 bool Recorder::isRecording() const
 {
     return m_isRecording;
+}
+
+QString Recorder::recordedName(const QWidget* widget) const
+{
+    return m_objects.nameOf(widget);
 }
 
 const Recording& Recorder::recording() const

@@ -20,7 +20,8 @@ struct ObjectMaking;
 /// and everything that happened to it since, in order, objects that are gone left out. A recording begins with that
 /// way, so that it replays from "reset" and the panel that a person has in front of him is the one that the replay
 /// shows. Who meets a fault and only then presses Record has not lost it: the way leads there. The clock of a replay
-/// stands still at the time at which the recording was started.
+/// stands still: where the live one is frozen, else where it was when the recording was started or the clock last went
+/// on.
 ///
 /// Forgetting a call is hard: calls go through the table in HostCalls.h, services and sizes are compared before every
 /// command, persons are watched in the toolkit itself, and an event that comes outside all commands is warned of.
@@ -46,6 +47,9 @@ public:
     void stop();
 
     bool isRecording() const;
+
+    /// What a recording calls the object that the widget is or stands in; empty for another one.
+    QString recordedName(const QWidget* widget) const;
 
     /// The one under way, or the last one.
     const Recording& recording() const;

@@ -1,5 +1,7 @@
 #include "workbench/ServiceMirror.h"
 
+#include "workbench/StepMaking.h"
+
 #include "replay/Values.h"
 
 #include "reference/services/ServiceControl.h"
@@ -49,6 +51,9 @@ std::vector<Json> ServiceMirror::pendingCommands()
     const TC::CUserConfig* configuration = TC::getUserConfig();
     if (take(m_clientMode, configuration ? configuration->clientMode() : 0))
         commands.push_back({{"do", "clientMode"}, {"value", m_clientMode}});
+    // A replay's clock never goes by itself: where the live one goes on, it stands at that moment.
+    if (take(m_clock, reference::frozenClock()))
+        commands.push_back(clockCommand());
     if (take(m_scale, WQ::resources::scale()))
         commands.push_back({{"do", "scale"}, {"value", m_scale}});
     if (take(m_theme, WQ::resources::theme()))

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ private:
     // As after "reset".
     QStringList m_modules;
     int m_clientMode = 0;
+    std::optional<qint64> m_clock; ///< where it was frozen
     double m_scale = 1.0;
     QString m_theme = QStringLiteral("dark");
     std::map<std::string, replay::Json> m_accounts;

@@ -34,7 +34,7 @@ std::string nameOf(const Json& command)
 
 bool isSetting(const Json& command)
 {
-    static const std::set<std::string> settings = {"modules", "clientMode", "scale", "theme", "resize"};
+    static const std::set<std::string> settings = {"modules", "clientMode", "clock", "scale", "theme", "resize"};
     return settings.count(nameOf(command)) > 0;
 }
 

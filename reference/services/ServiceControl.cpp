@@ -32,6 +32,12 @@ ConfigurationSource& source()
     return theSource;
 }
 
+std::function<void()>& listener()
+{
+    static std::function<void()> theListener;
+    return theListener;
+}
+
 LoadReport apply(const QByteArray& bytes)
 {
     Configuration configuration;
@@ -70,6 +76,8 @@ void readAgain()
         report = apply(bytes);
     }
     sayReport(source().path, report);
+    if (report.isGood() && listener())
+        listener()();
 }
 
 } // namespace
@@ -78,11 +86,17 @@ void resetServices()
 {
     delete source().watch;
     source() = {};
+    setConfigurationListener({});
     setClientMode(0);
     setModules({});
     freezeClock(std::nullopt);
     clearAccounts();
     forgetReports();
+}
+
+void setConfigurationListener(std::function<void()> changed)
+{
+    listener() = std::move(changed);
 }
 
 void setClientMode(int mode)
@@ -123,6 +137,11 @@ void emitAlgorithmHint(int orderType, bool hint)
 void freezeClock(std::optional<qint64> seconds)
 {
     TC::CTimeServicePrivate::state().frozen = seconds;
+}
+
+std::optional<qint64> frozenClock()
+{
+    return TC::CTimeServicePrivate::state().frozen;
 }
 
 void addAccount(const std::string& key, const ttservice::CAccountInfoV2& account)

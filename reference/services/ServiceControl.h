@@ -9,6 +9,7 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -34,6 +35,9 @@ WQ_EXPORT void emitAlgorithmHint(int orderType, bool hint);
 /// Stops the clock at these seconds since the epoch; without a value it is the system's again.
 WQ_EXPORT void freezeClock(std::optional<qint64> seconds);
 
+/// Where the clock stands; without a value while it is the system's.
+WQ_EXPORT std::optional<qint64> frozenClock();
+
 /// Adds or replaces an account. Pointers that were handed out keep the account as it was.
 WQ_EXPORT void addAccount(const std::string& key, const ttservice::CAccountInfoV2& account);
 WQ_EXPORT void clearAccounts();
@@ -57,6 +61,9 @@ WQ_EXPORT QString dataFolder();
 ///
 /// What the file leaves out is 0 and off.
 WQ_EXPORT LoadReport loadConfiguration(const QString& path);
+
+/// Called whenever the configuration file was read again and taken. An empty one, and resetServices(), end it.
+WQ_EXPORT void setConfigurationListener(std::function<void()> listener);
 
 /// The accounts of a JSON file, in place of those there are: a list of objects with "key", "brokerType", "id", "name".
 WQ_EXPORT LoadReport loadAccounts(const QString& path);

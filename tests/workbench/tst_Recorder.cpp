@@ -65,6 +65,8 @@ private Q_SLOTS:
     void eventsBelongToTheCommandThatCausedThem();
     void whatWasCommittedComesBeforeTheNextCall();
     void whatOthersDoToTheServicesIsNoticed();
+    void aClockThatIsFrozenAndGoesOnIsRecorded();
+    void aClockThatWentOnBeforeStandsAtTheStart();
     void twoWindowsRecordWhatIsTheirs();
     void aCallPastTheRecorderIsWarnedOf();
     void aDialogClosedByAPersonIsDeleted();
@@ -237,6 +239,46 @@ void tst_Recorder::whatOthersDoToTheServicesIsNoticed()
     QVERIFY(mode != std::string::npos);
     QVERIFY(script.find(R"({"do":"modules","on":["mdl_a/b"]})") != std::string::npos);
     QVERIFY(script.find(R"("args":["1"])") > mode);
+}
+
+void tst_Recorder::aClockThatIsFrozenAndGoesOnIsRecorded()
+{
+    const auto window = person::open();
+    auto& table = *window->bench()->table();
+    window->recorder()->start();
+    reference::freezeClock(1716168600);
+    hostCall(table, calls::kSetStockCode, QStringLiteral("1"));
+    reference::freezeClock(1716168660);
+    hostCall(table, calls::kSetStockCode, QStringLiteral("2"));
+    hostCall(table, calls::kSetStockCode, QStringLiteral("3"));
+    const qint64 before = QDateTime::currentSecsSinceEpoch();
+    reference::freezeClock(std::nullopt);
+    window->recorder()->stop();
+    std::vector<qint64> clocks;
+    const Recording& recording = window->recorder()->recording();
+    for (std::size_t i = recording.preparation; i < recording.steps.size(); ++i)
+        if (recording.steps[i]->command["do"] == "clock")
+            clocks.push_back(recording.steps[i]->command["epoch"].get<qint64>());
+    QCOMPARE(clocks.size(), std::size_t(3));
+    QCOMPARE(clocks[0], qint64(1716168600));
+    QCOMPARE(clocks[1], qint64(1716168660));
+    QVERIFY(clocks[2] >= before);
+}
+
+void tst_Recorder::aClockThatWentOnBeforeStandsAtTheStart()
+{
+    const auto window = person::open();
+    auto& table = *window->bench()->table();
+    reference::freezeClock(1716168600);
+    hostCall(table, calls::kSetStockCode, QStringLiteral("1"));
+    reference::freezeClock(std::nullopt);
+    hostCall(table, calls::kSetStockCode, QStringLiteral("2"));
+    const qint64 before = QDateTime::currentSecsSinceEpoch();
+    window->recorder()->start();
+    const Recording& recording = window->recorder()->recording();
+    QCOMPARE(recording.steps.size(), recording.preparation);
+    QCOMPARE(recording.steps.back()->command["do"].get<std::string>(), std::string("clock"));
+    QVERIFY(recording.steps.back()->command["epoch"].get<qint64>() >= before);
 }
 
 void tst_Recorder::twoWindowsRecordWhatIsTheirs()

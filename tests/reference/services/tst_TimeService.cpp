@@ -44,12 +44,15 @@ private Q_SLOTS:
         const qint64 before = QDateTime::currentSecsSinceEpoch();
         QVERIFY(now() >= before);
         QVERIFY(now() <= QDateTime::currentSecsSinceEpoch());
+        QVERIFY(!reference::frozenClock());
         reference::freezeClock(1716168600);
         QCOMPARE(now(), qint64(1716168600));
+        QVERIFY(reference::frozenClock() == std::optional<qint64>(1716168600));
         reference::freezeClock(std::numeric_limits<qint64>::min());
         QCOMPARE(now(), std::numeric_limits<qint64>::min());
         reference::freezeClock(std::nullopt);
         QVERIFY(now() >= before);
+        QVERIFY(!reference::frozenClock());
     }
 
     void secondsAreSplitInTheLocalTimeZone_data()
