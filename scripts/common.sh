@@ -14,7 +14,11 @@ build_packages=(
     libboost-dev nlohmann-json3-dev
     libbenchmark-dev librapidcheck-dev abigail-tools valgrind
     fontconfig fonts-noto-cjk
+    pkg-config
 )
+
+# What making and checking Debian packages needs beyond that.
+packaging_packages=(dpkg-dev fakeroot file lintian)
 
 # Ends the script with one line that says what failed.
 fail() {

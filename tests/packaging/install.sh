@@ -33,4 +33,7 @@ for program in workbench replay; do
 done
 ! command -v man >/dev/null || ! man --warnings -l "$prefix"/share/man/man1/*.gz 2>&1 >/dev/null | grep . || fail "man warns"
 
+output=$(cd "$scratch" && cpack --config "$build/CPackConfig.cmake" 2>&1) && fail "packages are made of a build for another prefix"
+[[ $output == *"cmake --workflow --preset package"* ]] || fail "cpack does not say how packages are made: $output"
+
 finish "The installed prefix can be moved."
