@@ -279,7 +279,7 @@ void CellInteraction::addRowState(const CellItem& cell, RowState& state) const
     state.editing = &cell == m_cell;
     state.wrong = (state.editing || &cell == m_refused) && !m_wrong.isEmpty();
     state.flash = m_flash && m_flash->isLit(cell);
-    state.focus = (state.focus && !m_footerFocus) || state.editing || &cell == m_choiceCell;
+    state.focus = (state.focus && !m_footerFocus) || state.editing || &cell == m_choiceCell || &cell == m_menuCell;
 }
 
 FooterState CellInteraction::footerState() const

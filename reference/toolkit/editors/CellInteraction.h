@@ -145,6 +145,7 @@ private:
     std::unique_ptr<CellFlash> m_flash;
     CellItem* m_cell = nullptr;             // being edited
     const CellItem* m_choiceCell = nullptr; // its list is open
+    const CellItem* m_menuCell = nullptr;   // its menu is open
     const CellItem* m_refused = nullptr;    // what was pasted into it is wrong
     const CellItem* m_mouseCell = nullptr;
     QString m_wrong;

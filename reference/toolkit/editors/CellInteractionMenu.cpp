@@ -11,6 +11,8 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace WQ {
 
 namespace {
@@ -55,6 +57,13 @@ void CellInteraction::openMenu(CellItem& cell, const QPoint& position)
     if (canEdit(cell))
         answers.unitChosen = [this, &cell](int unit) { picked(cell, unit); };
     m_menu = new CellMenu(widget(), cell, std::move(answers), m_table.scale());
+    m_menuCell = &cell;
+    QObject::connect(m_menu, &QMenu::aboutToHide, &widget(), [this] {
+        const CellItem* closed = std::exchange(m_menuCell, nullptr);
+        if (closed && !m_closing)
+            m_table.update(*closed);
+    });
+    m_table.update(cell);
     m_menu->popup(position);
 }
 

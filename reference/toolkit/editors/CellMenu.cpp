@@ -1,5 +1,6 @@
 #include "reference/toolkit/editors/CellMenu.h"
 
+#include "reference/toolkit/Painting.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/cells/NumberCell.h"
@@ -8,6 +9,7 @@
 
 #include <QActionGroup>
 #include <QKeyEvent>
+#include <QPainter>
 
 #include <algorithm>
 #include <utility>
@@ -39,24 +41,29 @@ const CommandRow& rowOf(CellCommand command)
                          [command](const CommandRow& row) { return row.command == command; });
 }
 
+constexpr int kFrame = 1;
+
 // Of the menu itself, so that no style sheet of the application reaches it.
 QString sheet(double scale)
 {
     const QFont font = resources::font(keys::kTextFont, scale);
     const int padding = resources::size(keys::kPadding, scale);
+    const int spare = resources::size(keys::kPopupRowHeight, scale) - 2 * kFrame - QFontMetrics(font).height();
     return QStringLiteral("QMenu { background: %1; color: %2; border: 1px solid %3; margin: 0; padding: 0;"
                           " font-size: %6px; font-family: \"%7\"; }"
                           " QMenu::item { background: transparent; color: %2; border: 1px solid transparent;"
                           " padding: %8px %9px %8px %10px; }"
                           " QMenu::item:selected { background: %4; border-color: %11; }"
                           " QMenu::item:disabled { color: %5; }"
+                          " QMenu::right-arrow { image: none; width: 0; height: 0; }"
+                          " QMenu::indicator { image: none; width: 0; height: 0; }"
                           " QMenu::separator { height: 1px; background: %3; margin: 0; }")
         .arg(resources::color(keys::kRow).name(), resources::color(keys::kValue).name(),
              resources::color(keys::kSeparator).name(), resources::color(keys::kRowFocus).name(),
              resources::color(keys::kUnit).name())
         .arg(font.pixelSize())
         .arg(font.family())
-        .arg(padding / 2)
+        .arg(std::max(0, spare) / 2)
         .arg(2 * padding)
         .arg(3 * padding)
         .arg(resources::color(keys::kAccent).name());
@@ -84,8 +91,37 @@ bool isMenuKey(const QKeyEvent& event)
     return event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
 }
 
+MarkedMenu::MarkedMenu(QWidget* owner, double scale)
+    : QMenu(owner)
+    , m_scale(scale)
+{
+}
+
+void MarkedMenu::paintEvent(QPaintEvent* event)
+{
+    QMenu::paintEvent(event);
+    QPainter painter(this);
+    const int padding = resources::size(keys::kPadding, m_scale);
+    const int edge = resources::size(keys::kChevron, m_scale);
+    const QRect mark(-edge / 2, -edge / 2, edge, edge);
+    const QList<QAction*> all = actions();
+    for (QAction* action : all) {
+        const QRect row = actionGeometry(action);
+        painter.save();
+        painter.translate(action->menu() ? row.right() - padding - edge / 2 : row.left() + padding + edge / 2,
+                          row.center().y());
+        if (action->menu()) {
+            painter.rotate(-90); // the chevron of a list points down, and this one opens to the right
+            painting::drawImage(painter, mark, keys::kChevronImage, resources::color(keys::kUnit), edge);
+        } else if (action->isChecked()) {
+            painting::drawImage(painter, mark, keys::kCheckImage, resources::color(keys::kAccent), edge);
+        }
+        painter.restore();
+    }
+}
+
 CellMenu::CellMenu(QWidget& owner, const CellItem& cell, CellMenuAnswers answers, double scale)
-    : QMenu(&owner)
+    : MarkedMenu(&owner, scale)
     , m_answers(std::move(answers))
 {
     setStyleSheet(sheet(scale));
@@ -95,6 +131,8 @@ CellMenu::CellMenu(QWidget& owner, const CellItem& cell, CellMenuAnswers answers
     for (const CellCommand command : {CellCommand::Paste, CellCommand::Initial})
         addCommand(command);
     addUnits(cell);
+    // The keys stand apart from the longest text.
+    setMinimumWidth(sizeHint().width() + 2 * resources::size(keys::kPadding, scale));
 }
 
 // What a command does may take the table away, and the menu with it: it runs when the menu's own code has unwound.
@@ -112,7 +150,9 @@ void CellMenu::addCommand(CellCommand command)
 
 void CellMenu::addUnits(const CellItem& cell)
 {
-    QMenu* list = addMenu(CMultiParamsTable::tr("切换单位"));
+    auto* list = new MarkedMenu(this, scale());
+    list->setTitle(CMultiParamsTable::tr("切换单位"));
+    addMenu(list);
     list->menuAction()->setEnabled(m_answers.unitChosen && cell.kind() != CellKind::Combo && cell.hasChevron());
     if (cell.kind() != CellKind::Number && cell.kind() != CellKind::CheckNumber)
         return;

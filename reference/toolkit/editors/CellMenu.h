@@ -30,9 +30,29 @@ struct CellMenuAnswers
     std::function<void(int)> unitChosen; ///< none: the units are shown and cannot be changed
 };
 
+/// A menu whose arrows and ticks are the toolkit's: a style's own keep their size and colour at every scale and in
+/// every theme.
+class WQ_EXPORT MarkedMenu : public QMenu
+{
+    Q_OBJECT
+public:
+    MarkedMenu(QWidget* owner, double scale);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+    double scale() const
+    {
+        return m_scale;
+    }
+
+private:
+    const double m_scale;
+};
+
 /// The menu of one cell, in the toolkit's look, as the cell is when it is made. What does not apply stands in it
 /// disabled.
-class WQ_EXPORT CellMenu : public QMenu
+class WQ_EXPORT CellMenu : public MarkedMenu
 {
     Q_OBJECT
 public:

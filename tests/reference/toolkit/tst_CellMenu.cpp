@@ -1,5 +1,7 @@
 #include "MenuPanel.h"
 
+#include "reference/toolkit/ThemeKeys.h"
+
 #include <QShortcut>
 
 using Cell = EditorPanel;
@@ -59,6 +61,10 @@ private Q_SLOTS:
     void theMenuGoesWithTheTable();
     void theMenuClosesWhenTheTableIsHidden();
     void theMenuStaysOpenOverAnEditor();
+    void theRowOfTheMenuStaysMarked();
+    void theArrowOfTheUnitsGrowsWithTheScale();
+    void anEntryIsAsHighAsThatOfAList_data();
+    void anEntryIsAsHighAsThatOfAList();
 
 private:
     std::unique_ptr<MenuPanel> m_panel;
@@ -344,6 +350,76 @@ void tst_CellMenu::theMenuStaysOpenOverAnEditor()
     QCOMPARE(MenuPanel::clipboard(), QStringLiteral("10000"));
     QVERIFY(m_panel->isEditing(Cell::Least));
     QCOMPARE(m_panel->line()->text(), QStringLiteral("300"));
+}
+
+void tst_CellMenu::theRowOfTheMenuStaysMarked()
+{
+    const WQ::CellItem& price = m_panel->cell(Cell::Price);
+    QVERIFY(m_panel->menuOf(Cell::Price));
+    QVERIFY(m_panel->inner().rowState(price).focus);
+    QVERIFY(!m_panel->inner().rowState(m_panel->cell(Cell::Least)).focus);
+    m_panel->menu()->close();
+    m_panel->comeBack();
+    m_panel->before->setFocus();
+    QVERIFY(!m_panel->inner().rowState(price).focus);
+}
+
+namespace {
+
+/// How high what is painted at the right end of an entry stands.
+int paintedHeight(WQ::CellMenu& menu, const QRect& entry)
+{
+    const QImage picture = menu.grab().toImage();
+    QRect painted;
+    for (int y = entry.top() + 1; y < entry.bottom(); ++y)
+        for (int x = entry.right() - entry.height(); x < entry.right() - 1; ++x)
+            if (picture.pixelColor(x, y) != WQ::resources::color(WQ::keys::kRow))
+                painted |= QRect(x, y, 1, 1);
+    return painted.height();
+}
+
+int arrowHeight(const MenuPanel& panel)
+{
+    WQ::CellMenu* menu = panel.menuOf(Cell::Price);
+    const int height = menu ? paintedHeight(*menu, menu->actionGeometry(MenuPanel::entry(menu, kUnits))) : 0;
+    if (menu)
+        menu->close();
+    return height;
+}
+
+} // namespace
+
+void tst_CellMenu::theArrowOfTheUnitsGrowsWithTheScale()
+{
+    const int small = arrowHeight(*m_panel);
+    QVERIFY(small >= 5);
+    WQ::resources::setScale(2);
+    m_panel->table->scaleChanged();
+    const int large = arrowHeight(*m_panel);
+    WQ::resources::setScale(1);
+    QVERIFY2(large >= 2 * small - 2 && large <= 2 * small + 2, qPrintable(QString::number(large)));
+}
+
+void tst_CellMenu::anEntryIsAsHighAsThatOfAList_data()
+{
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<int>("height");
+    QTest::newRow("as it is") << 1.0 << 24;
+    QTest::newRow("twice") << 2.0 << 48;
+}
+
+void tst_CellMenu::anEntryIsAsHighAsThatOfAList()
+{
+    QFETCH(double, scale);
+    QFETCH(int, height);
+    WQ::resources::setScale(scale);
+    m_panel->table->scaleChanged();
+    WQ::CellMenu* menu = m_panel->menuOf(Cell::Price);
+    QVERIFY(menu);
+    const int found = menu->actionGeometry(MenuPanel::entry(menu, kPaste)).height();
+    menu->close();
+    WQ::resources::setScale(1);
+    QVERIFY2(qAbs(found - height) <= 1, qPrintable(QString::number(found)));
 }
 
 QTEST_MAIN(tst_CellMenu)
