@@ -6,9 +6,14 @@
 #include <WQ/CMultiParamsTable.h>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QScrollArea>
 #include <QScrollBar>
+
+#include <initializer_list>
 
 namespace workbench {
 
@@ -76,6 +81,50 @@ void openFilter(const WQ::CMultiParamsTable& cells)
     click(viewport, viewport->rect().bottomRight() - QPoint(viewport->width() / 10, viewport->height() / 40));
 }
 
+/// What a key reaches: the list or menu that is open, else the cells.
+QWidget* keyTarget(WQ::CMultiParamsTable& cells)
+{
+    QWidget* popup = QApplication::activePopupWidget();
+    return popup ? popup : focused(cells);
+}
+
+void pressKeys(WQ::CMultiParamsTable& cells, std::initializer_list<int> keys)
+{
+    for (const int key : keys)
+        pressKey(keyTarget(cells), key);
+}
+
+/// Down the menu to the entry that opens another one.
+void openUnitMenu(WQ::CMultiParamsTable& cells)
+{
+    pressKeys(cells, {Qt::Key_Menu});
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (int left = menu ? menu->actions().size() : 0; left > 0; --left) {
+        pressKeys(cells, {Qt::Key_Down});
+        if (menu->activeAction() && menu->activeAction()->menu())
+            return pressKeys(cells, {Qt::Key_Right});
+    }
+}
+
+/// What stood in the clipboard is there again afterwards.
+void paste(WQ::CMultiParamsTable& cells, const QString& text)
+{
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    const QString before = clipboard.text();
+    clipboard.setText(text);
+    pressKey(&cells, Qt::Key_V, Qt::ControlModifier);
+    clipboard.setText(before);
+}
+
+void askToolTip(WQ::CMultiParamsTable& cells, const QString& label)
+{
+    QWidget* viewport = cells.viewport();
+    const QPoint at = cells.visualRect(valueOf(cells, label)).center();
+    QHelpEvent asked(QEvent::ToolTip, at, viewport->mapToGlobal(at));
+    QCoreApplication::sendEvent(viewport, &asked);
+    settle();
+}
+
 void scrollDown(TC::COrderParamBaseTable& table)
 {
     if (auto* area = table.findChild<QScrollArea*>())
@@ -115,6 +164,20 @@ void bringInto(TC::COrderParamBaseTable& table, PanelState state)
         return pressKey(&cells, Qt::Key_F2);
     case PanelState::FilterOpen:
         return openFilter(cells);
+    case PanelState::FilterButtonFocused:
+        openFilter(cells);
+        return pressKeys(cells, {Qt::Key_Tab});
+    case PanelState::MenuOpen:
+        focusCell(cells, QStringLiteral("单笔超价"));
+        return pressKeys(cells, {Qt::Key_Menu, Qt::Key_Down});
+    case PanelState::UnitMenuOpen:
+        focusCell(cells, QStringLiteral("单笔超价"));
+        return openUnitMenu(cells);
+    case PanelState::PasteRefused:
+        focusCell(cells, QStringLiteral("单笔超价"));
+        return paste(cells, QStringLiteral("abc"));
+    case PanelState::RangeToolTip:
+        return askToolTip(cells, QStringLiteral("单笔最大量"));
     case PanelState::Scrolled:
         return scrollDown(table);
     }

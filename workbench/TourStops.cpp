@@ -37,6 +37,11 @@ constexpr std::array kPanelStops = {
     PanelStop{"state-entry-list-open",               5, 2, 1, kExpanded,  PanelState::EntryListOpen},
     PanelStop{"state-period-editor-open",            5, 2, 1, kExpanded,  PanelState::PeriodEditorOpen},
     PanelStop{"state-filter-open",                   5, 2, 1, kCollapsed, PanelState::FilterOpen},
+    PanelStop{"state-filter-button-focused",         5, 2, 1, kCollapsed, PanelState::FilterButtonFocused},
+    PanelStop{"state-menu-open",                     5, 2, 1, kExpanded,  PanelState::MenuOpen},
+    PanelStop{"state-unit-menu-open",                5, 2, 1, kExpanded,  PanelState::UnitMenuOpen},
+    PanelStop{"state-paste-refused",                 5, 2, 1, kExpanded,  PanelState::PasteRefused},
+    PanelStop{"state-range-tooltip",                 5, 2, 1, kExpanded,  PanelState::RangeToolTip},
     PanelStop{"state-disabled",                      5, 2, 1, kExpanded,  PanelState::Disabled},
     PanelStop{"state-scrolled",                      5, 2, 1, kExpanded,  PanelState::Scrolled},
 };

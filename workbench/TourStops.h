@@ -17,6 +17,11 @@ enum class PanelState {
     EntryListOpen,
     PeriodEditorOpen,
     FilterOpen,
+    FilterButtonFocused,
+    MenuOpen,
+    UnitMenuOpen,
+    PasteRefused,
+    RangeToolTip,
     Disabled,
     Scrolled
 };
