@@ -289,8 +289,10 @@ bool CPushButton::event(QEvent* event)
         painting::showToolTip(*static_cast<QHelpEvent*>(event), d->isElided() ? text() : QString(), this);
         return true;
     }
-    // A group moves the focus among its buttons; elsewhere arrow keys are the surroundings' too.
-    if (event->type() == QEvent::KeyPress && isArrow(static_cast<QKeyEvent*>(event)->key())) {
+    // A group moves the focus among its buttons; elsewhere arrow keys are the surroundings' too. A window hands its
+    // keys to what had the focus last, though that be hidden by now.
+    const bool isKey = event->type() == QEvent::KeyPress;
+    if (isKey && (isArrow(static_cast<QKeyEvent*>(event)->key()) || !isVisibleTo(window()))) {
         event->ignore();
         return false;
     }

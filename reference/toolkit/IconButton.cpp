@@ -97,7 +97,7 @@ void IconButton::paintDot(QPainter& painter, int edge) const
 
 void IconButton::keyPressEvent(QKeyEvent* event)
 {
-    if (isArrow(event->key()))
+    if (isArrow(event->key()) || !isVisibleTo(window()))
         event->ignore();
     else
         QAbstractButton::keyPressEvent(event);

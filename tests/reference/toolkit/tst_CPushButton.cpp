@@ -51,6 +51,7 @@ private Q_SLOTS:
     void cleanup();
     void aClickSendsItsEventWhenTheHandlerHasUnwound();
     void spaceClicksAndEnterDoesNot();
+    void aKeyDoesNotPressWhatIsHidden();
     void enterInADialogPressesNoButton();
     void theListenerMayDeleteTheButton();
     void programmaticChangesSendNothing();
@@ -107,6 +108,22 @@ void CPushButtonTest::spaceClicksAndEnterDoesNot()
     QTest::keyClick(&button, Qt::Key_Space);
     QCoreApplication::processEvents();
     QCOMPARE(host.heard.size(), 1);
+}
+
+// The window that is not the active one keeps the button that had the focus in it.
+void CPushButtonTest::aKeyDoesNotPressWhatIsHidden()
+{
+    Listener host;
+    auto* strip = new QWidget(&host);
+    CPushButton button(colors(), 600, strip);
+    host.show();
+    button.setFocus();
+    strip->hide();
+    QTest::keyClick(&button, Qt::Key_Space);
+    strip->show();
+    QTest::keyClick(&button, Qt::Key_Space);
+    QCoreApplication::processEvents();
+    QCOMPARE(host.heard, QStringList{QStringLiteral("5 600 0 ")});
 }
 
 void CPushButtonTest::enterInADialogPressesNoButton()
