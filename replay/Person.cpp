@@ -135,13 +135,12 @@ QAbstractButton* buttonWithinReach(const Object& object, int id)
     WQ::CDropDownButtonGroup* group = object.buttons();
     if (!group || isHiddenIn(object, group))
         return nullptr;
-    if (id == kHelpButton) {
-        group->resetLayout(); // which makes the button, were the strip not laid out yet
-        QAbstractButton* help = helpButton(*group);
-        return help && !help->isHidden() ? help : nullptr;
-    }
     WQ::CPushButton* button = pushButton(*group, id);
-    return button && !isHidden(*button, visibleIds(*group)) ? button : nullptr;
+    if (button || id != kHelpButton)
+        return button && !isHidden(*button, visibleIds(*group)) ? button : nullptr;
+    group->resetLayout(); // which makes the button, were the strip not laid out yet
+    QAbstractButton* help = helpButton(*group);
+    return help && !help->isHidden() ? help : nullptr;
 }
 
 } // namespace
