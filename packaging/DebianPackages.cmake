@@ -33,6 +33,10 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
 
 
+file(STRINGS debian/changelog latest_change LIMIT_COUNT 1)
+if(NOT latest_change MATCHES "^${source_name} \\(${debian_version}\\) ")
+    message(FATAL_ERROR "packaging/debian/changelog does not begin with version ${debian_version}")
+endif()
 orderparam_compress(debian/changelog changelog.Debian.gz)
 file(READ debian/description described_library)
 string(STRIP "${described_library}" described_library)

@@ -29,7 +29,7 @@ if grep -rlF "$source" "$prefix/$libdir/cmake" "$prefix/$libdir/pkgconfig"; then
 fi
 for program in workbench replay; do
     output=$("$prefix/bin/orderparam-$program" --version 2>&1) || fail "orderparam-$program: $output"
-    [[ $output == *"orderparam-$program 0.1.0"* ]] || fail "orderparam-$program calls itself $output"
+    [[ $output == *"orderparam-$program $version"* ]] || fail "orderparam-$program calls itself $output"
 done
 ! command -v man >/dev/null || ! man --warnings -l "$prefix"/share/man/man1/*.gz 2>&1 >/dev/null | grep . || fail "man warns"
 

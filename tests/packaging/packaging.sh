@@ -2,7 +2,7 @@
 # Shared by the tests of this folder, which source it. They are called with the scratch folder, which lies outside the
 # tree, and a file of the settings of the build under test:
 #
-#   build, source, compiler, flags (of the sanitizers), libdir, launcher (of the compiler)
+#   build, source, compiler, flags (of the sanitizers), libdir, version, launcher (of the compiler)
 set -euo pipefail
 
 scratch=$1

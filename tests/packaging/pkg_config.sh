@@ -6,7 +6,7 @@ export PKG_CONFIG_PATH=$prefix/$libdir/pkgconfig
 read -ra options <<< "-std=c++17 -fPIC -Wall -Wextra -Werror $flags"
 read -ra package <<< "$(pkg-config --cflags --libs OrderParamTable_mini OrderParamTable_mini-reference)"
 [[ $(pkg-config --print-requires OrderParamTable_mini) == Qt5Widgets ]] || fail "Qt5Widgets is not required"
-[[ $(pkg-config --modversion OrderParamTable_mini) == 0.1.0 ]] || fail "the version is another one"
+[[ $(pkg-config --modversion OrderParamTable_mini) == "$version" ]] || fail "the version is another one"
 
 mkdir -p "$scratch/pkg-config"
 "$compiler" "${options[@]}" -o "$scratch/pkg-config/embed" "$source/examples/embed/main.cpp" "${package[@]}"
