@@ -66,7 +66,7 @@ void CMultiParamsTablePrivate::paint(QPaintEvent* event)
     paintRows(cells, dirty, isOnScreen(*m_table, painter));
     m_model->painted();
     if (event->region().rectCount() > 1)
-        m_painted.clear();
+        m_painted.assign(m_painted.size(), PaintedValue());
     const QRect footer = footerRect();
     if (footer.intersects(dirty)) {
         FooterState state = m_interaction ? m_interaction->footerState() : FooterState();
@@ -173,10 +173,13 @@ bool CMultiParamsTablePrivate::takeNext(PaintedValue& painted, const QString& te
 
 void CMultiParamsTablePrivate::rowsChanged(int first, int last)
 {
-    QRect changed;
-    for (int row = first; row <= last; ++row)
-        changed |= changedRect(row);
-    m_table->viewport()->update(changed);
+    // Rows that have not been painted since they came are to be painted whole, and the view knows it.
+    if (!m_painted.empty()) {
+        QRect changed;
+        for (int row = first; row <= last; ++row)
+            changed |= changedRect(row);
+        m_table->viewport()->update(changed);
+    }
     for (int row = first; m_interaction && row <= last; ++row) {
         if (const CellItem* cell = m_model->cellAtRow(row))
             m_interaction->cellChanged(*cell);

@@ -11,6 +11,11 @@ namespace {
 
 const QEvent::Type kFlushEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
+bool isBefore(const std::pair<int, int>& entry, int id)
+{
+    return entry.first < id;
+}
+
 QString shownText(const CellItem& cell)
 {
     const QString value = cell.displayText();
@@ -31,7 +36,7 @@ CellModel::~CellModel() = default;
 int CellModel::add(std::unique_ptr<CMultiParamsTableItem> item)
 {
     const std::pair<int, int> entry(item->id(), cellCount());
-    const auto place = std::lower_bound(m_positions.begin(), m_positions.end(), std::make_pair(entry.first, 0));
+    const auto place = std::lower_bound(m_positions.begin(), m_positions.end(), entry.first, isBefore);
     if (place != m_positions.end() && place->first == entry.first)
         return -1;
     m_positions.insert(place, entry);
@@ -54,8 +59,10 @@ CMultiParamsTableItem* CellModel::itemAt(int position) const
 
 CMultiParamsTableItem* CellModel::item(int id) const
 {
-    const auto place = std::lower_bound(m_positions.begin(), m_positions.end(), std::make_pair(id, 0));
-    return place != m_positions.end() && place->first == id ? itemAt(place->second) : nullptr;
+    const auto place = std::lower_bound(m_positions.begin(), m_positions.end(), id, isBefore);
+    if (place == m_positions.end() || place->first != id)
+        return nullptr;
+    return m_items[static_cast<std::size_t>(place->second)].get();
 }
 
 CellItem* CellModel::cell(int id) const
@@ -161,47 +168,6 @@ void CellModel::flush()
         tellFilterLook();
     }
     m_flushing = false;
-}
-
-std::vector<int> CellModel::shownPositions() const
-{
-    std::vector<int> shown;
-    shown.reserve(m_items.size());
-    for (int position = 0; position < cellCount(); ++position) {
-        if (isShown(*itemAt(position)->cell()))
-            shown.push_back(position);
-    }
-    return shown;
-}
-
-// Both lists are sorted. Rows that stay keep their indexes, so that the current row and an open editor stay too.
-void CellModel::replaceRows(const std::vector<int>& rows)
-{
-    const auto stays = [&rows](int position) { return std::binary_search(rows.begin(), rows.end(), position); };
-    for (int last = static_cast<int>(m_rows.size()) - 1; last >= 0; --last) {
-        if (stays(m_rows[static_cast<size_t>(last)]))
-            continue;
-        int first = last;
-        while (first > 0 && !stays(m_rows[static_cast<size_t>(first - 1)]))
-            --first;
-        beginRemoveRows(QModelIndex(), first, last);
-        m_rows.erase(m_rows.begin() + first, m_rows.begin() + last + 1);
-        endRemoveRows();
-        last = first;
-    }
-    for (size_t at = 0; at < rows.size(); ++at) {
-        size_t end = at;
-        while (end < rows.size() && (at >= m_rows.size() || rows[end] < m_rows[at]))
-            ++end;
-        if (end == at)
-            continue;
-        beginInsertRows(QModelIndex(), static_cast<int>(at), static_cast<int>(end) - 1);
-        const auto first = rows.begin() + static_cast<std::ptrdiff_t>(at);
-        m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(at), first,
-                      rows.begin() + static_cast<std::ptrdiff_t>(end));
-        endInsertRows();
-        at = end - 1;
-    }
 }
 
 // What is announced is taken first: whoever hears of it may change cells again. Rows stay as they are meanwhile.

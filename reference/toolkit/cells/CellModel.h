@@ -140,6 +140,8 @@ private:
     void tellFilterLook();
     std::vector<int> shownPositions() const;
     void replaceRows(const std::vector<int>& rows);
+    void removeRowsBut(const std::vector<int>& rows);
+    void insertMissingRows(const std::vector<int>& rows);
     void announceValues();
     bool isAnnounced(int row) const;
 

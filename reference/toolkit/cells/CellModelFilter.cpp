@@ -20,6 +20,62 @@ int CellModel::shownCount() const
     return m_shownCount;
 }
 
+std::vector<int> CellModel::shownPositions() const
+{
+    std::vector<int> shown;
+    shown.reserve(m_items.size());
+    for (std::size_t position = 0; position < m_items.size(); ++position) {
+        if (isShown(*m_items[position]->cell()))
+            shown.push_back(static_cast<int>(position));
+    }
+    return shown;
+}
+
+// Both lists are sorted. Rows that stay keep their indexes, so that the current row and an open editor stay too.
+void CellModel::replaceRows(const std::vector<int>& rows)
+{
+    removeRowsBut(rows);
+    insertMissingRows(rows);
+}
+
+void CellModel::removeRowsBut(const std::vector<int>& rows)
+{
+    auto kept = rows.end(); // behind the last row that is not after the position asked for last
+    const auto stays = [&rows, &kept](int position) {
+        while (kept != rows.begin() && *(kept - 1) > position)
+            --kept;
+        return kept != rows.begin() && *(kept - 1) == position;
+    };
+    for (int last = static_cast<int>(m_rows.size()) - 1; last >= 0; --last) {
+        if (stays(m_rows[static_cast<size_t>(last)]))
+            continue;
+        int first = last;
+        while (first > 0 && !stays(m_rows[static_cast<size_t>(first - 1)]))
+            --first;
+        beginRemoveRows(QModelIndex(), first, last);
+        m_rows.erase(m_rows.begin() + first, m_rows.begin() + last + 1);
+        endRemoveRows();
+        last = first;
+    }
+}
+
+void CellModel::insertMissingRows(const std::vector<int>& rows)
+{
+    for (size_t at = 0; at < rows.size(); ++at) {
+        size_t end = at;
+        while (end < rows.size() && (at >= m_rows.size() || rows[end] < m_rows[at]))
+            ++end;
+        if (end == at)
+            continue;
+        beginInsertRows(QModelIndex(), static_cast<int>(at), static_cast<int>(end) - 1);
+        const auto first = rows.begin() + static_cast<std::ptrdiff_t>(at);
+        m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(at), first,
+                      rows.begin() + static_cast<std::ptrdiff_t>(end));
+        endInsertRows();
+        at = end - 1;
+    }
+}
+
 std::vector<CellItem*> CellModel::filterCells() const
 {
     std::vector<CellItem*> cells;
