@@ -22,6 +22,14 @@ finish() {
     echo "$1"
 }
 
+# For cmake, where a build of the library itself is to take little time.
+cheap=(-G Ninja "-DCMAKE_CXX_COMPILER=$compiler" "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher" "-DCMAKE_CXX_FLAGS=$flags -O0")
+
+# step NAME COMMAND...: the output is only worth reading when it fails.
+step() {
+    "${@:2}" > "$scratch/$1.log" 2>&1 || { cat "$scratch/$1.log"; echo "FAIL: $1"; exit 1; }
+}
+
 # built PROJECT [CMAKE-ARGUMENT...]: configures and builds a copy of PROJECT, which then knows nothing of this tree. A copy
 # that has not changed is not built again.
 built() {
@@ -29,11 +37,10 @@ built() {
     name=$(basename "$1")
     mkdir -p "$scratch/projects"
     cp -ru "$1" "$scratch/projects/"
-    cmake -S "$scratch/projects/$name" -B "$scratch/builds/$name" -G Ninja -DCMAKE_CXX_COMPILER="$compiler" \
-        -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Werror" "${@:2}" \
-        > "$scratch/$name.log" 2>&1 || { cat "$scratch/$name.log"; echo "FAIL: $name is not configured"; exit 1; }
-    cmake --build "$scratch/builds/$name" > "$scratch/$name.log" 2>&1 \
-        || { cat "$scratch/$name.log"; echo "FAIL: $name is not built"; exit 1; }
+    step "$name-configured" cmake -S "$scratch/projects/$name" -B "$scratch/builds/$name" -G Ninja \
+        -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" \
+        -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Werror" "${@:2}"
+    step "$name-built" cmake --build "$scratch/builds/$name"
 }
 
 # says NAME EXPECTED PROGRAM [ARGUMENT...]: what a program writes is what the file EXPECTED holds.

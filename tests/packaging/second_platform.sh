@@ -2,13 +2,7 @@
 # The library, built on a client's own platform package, installed, and used by a host that knows no other platform.
 . "$(dirname "$0")/packaging.sh"
 
-# step NAME COMMAND...: the output is only worth reading when it fails.
-step() {
-    "${@:2}" > "$scratch/$1.log" 2>&1 || { cat "$scratch/$1.log"; echo "FAIL: $1"; exit 1; }
-}
-
 second=$scratch/second
-cheap=(-G Ninja "-DCMAKE_CXX_COMPILER=$compiler" "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher" "-DCMAKE_CXX_FLAGS=$flags -O0")
 step platform-configured cmake -S "$here/second_platform" -B "$second/platform-build" "${cheap[@]}" \
     -DCMAKE_INSTALL_PREFIX="$second/platform"
 step platform-built cmake --build "$second/platform-build" --target install
