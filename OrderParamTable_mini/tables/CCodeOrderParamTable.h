@@ -8,19 +8,28 @@
 
 namespace TC {
 
-/// The table for the parameters of one instrument code.
+/// The table for the parameters of one instrument code: the base table with the code it is given. In this edition it
+/// keeps no parameters of its own. Events: those of the base table.
 class ORDERPARAMTABLE_EXPORT CCodeOrderParamTable : public COrderParamBaseTable
 {
 public:
-    /// Hands its arguments to the base table in another order: @p b becomes the mode-button flag, @p a the font scale,
-    /// and the automatic order-book price type is never offered.
+    /// Hands its arguments to the base table in another order; the automatic order-book price type is never offered.
+    /// @param id which place of the host the table serves
+    /// @param brokerType the account's broker type
+    /// @param parent the owner; may be null
+    /// @param a whether the cell table follows the UI scale
+    /// @param traderType the kind of trading desk
+    /// @param b whether the strip of order-mode buttons is built
     CCodeOrderParamTable(EOpParamWidgetID id, ttservice::ENVBrokerType brokerType, QWidget* parent, bool a,
                          ttservice::ENvTraderType traderType, bool b);
     ~CCodeOrderParamTable() override;
 
+    /// As the base table's.
+    /// @param code the code as the host writes it; empty for none
     void setStockCode(QString code) override;
 
-    /// A default-constructed record.
+    /// The record that a code without parameters has.
+    /// @return a default-constructed record
     ttservice::COrderSetting getDefaultParam();
 
     /// Records the user's visible cells unless the table is expanded, and saves.
@@ -28,20 +37,36 @@ public:
 
     /// @name Inert in this edition
     /// @{
+
+    /// Would store the parameters of a code.
+    /// @param code the instrument
+    /// @param setting its parameters; stays as it is
     void setOrderParam(QString code, ttservice::COrderSetting& setting);
+
+    /// Would turn the table to selling.
+    /// @param sell whether the order sells
     void setSell(bool sell);
+
+    /// Would read the parameters of all codes.
+    /// @param text not looked at
     void setParam(const QString& text) override;
+
+    /// Would write the parameters of all codes.
+    /// @return empty
     QString param() const override;
+
+    /// Would store what the cells hold.
     void save() override;
 
 protected:
+    /// Would load the cells.
     void reloadParam() override;
     /// @}
 
-    bool m_changed = false;
-    QMap<QString, boost::shared_ptr<ttservice::IData>> m_paramsByCode;
-    ttservice::COrderSetting m_defaultSetting;
-    QMap<QString, boost::shared_ptr<ttservice::IData>> m_secondMap;
+    bool m_changed = false;                                            ///< not used in this edition
+    QMap<QString, boost::shared_ptr<ttservice::IData>> m_paramsByCode; ///< by instrument code; stays empty
+    ttservice::COrderSetting m_defaultSetting;                         ///< what getDefaultParam() answers
+    QMap<QString, boost::shared_ptr<ttservice::IData>> m_secondMap;    ///< not used in this edition
 };
 
 } // namespace TC

@@ -17,7 +17,8 @@ public:
     CTimeService(const CTimeService&) = delete;
     CTimeService& operator=(const CTimeService&) = delete;
 
-    /// Whole seconds since the epoch.
+    /// The client's time.
+    /// @return whole seconds since the epoch
     qint64 currentTime() const;
 
 private:
@@ -28,7 +29,8 @@ private:
     std::unique_ptr<CTimeServicePrivate> const d;
 };
 
-/// The clock of the process; lives until the program ends. Null where a client has none.
+/// The clock of the process; lives until the program ends.
+/// @return null where a client has none
 WQ_EXPORT CTimeService* getTimeService();
 
 } // namespace TC

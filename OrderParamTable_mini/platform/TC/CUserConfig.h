@@ -17,12 +17,14 @@ class WQ_EXPORT CUserConfig : public QObject
 public:
     ~CUserConfig() override;
 
-    /// The client mode: an integer of the client's; 100 and 101 mark the modes that show algorithm buttons of their
-    /// own.
+    /// The client mode.
+    /// @return an integer of the client's; 100 and 101 mark the modes that show algorithm buttons of their own
     int clientMode() const;
 
 Q_SIGNALS:
     /// The algorithm of that order type should, or should no longer, be hinted at.
+    /// @param orderType any integer
+    /// @param hint whether it should be hinted at
     void sigShouldHintAlgorithm(int orderType, bool hint);
 
 private:
@@ -32,7 +34,8 @@ private:
     std::unique_ptr<CUserConfigPrivate> const d;
 };
 
-/// The user configuration of the process; lives until the program ends. Null where a client has none.
+/// The user configuration of the process; lives until the program ends.
+/// @return null where a client has none
 WQ_EXPORT CUserConfig* getUserConfig();
 
 } // namespace TC

@@ -20,12 +20,15 @@ class WQ_EXPORT DataCenter
 {
 public:
     /// The one instance of the process; lives until the program ends.
+    /// @return null where a client has none
     static DataCenter* instance();
 
     DataCenter(const DataCenter&) = delete;
     DataCenter& operator=(const DataCenter&) = delete;
 
-    /// The account under @p accountKey; an empty pointer when there is none.
+    /// An account.
+    /// @param accountKey UTF-8
+    /// @return an empty pointer when there is none
     boost::shared_ptr<ttservice::CAccountInfoV2> getAccountInfo(const std::string& accountKey);
 
 private:

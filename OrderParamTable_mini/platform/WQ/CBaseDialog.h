@@ -12,10 +12,18 @@ class WQ_EXPORT CBaseDialog : public CEventWidgetT<QDialog>, public CUiResourceC
 {
     Q_OBJECT
 public:
+    /// A dialog that can be closed by its window.
+    /// @param parent the owner; may be null
     explicit CBaseDialog(QWidget* parent);
     ~CBaseDialog() override;
 
     /// Answers false: nothing is handled here.
+    /// @param event the event's number
+    /// @param a its first number
+    /// @param b its second number
+    /// @param text its text
+    /// @param data its data, valid during the call only
+    /// @return whether it was handled for good
     bool handleEvent(int event, int a, int b, QString text, void* data) override;
 
     /// Repaints.
@@ -26,12 +34,15 @@ public:
 
 protected:
     /// Whether the dialog may be accepted; asked by onOK(). This one answers true.
+    /// @return true lets onOK() accept
     virtual bool checkOK();
 
     /// Accepts the dialog when checkOK() allows it.
     virtual void onOK();
 
+    /// @cond handlers
     void paintEvent(QPaintEvent* event) override;
+    /// @endcond
 };
 
 } // namespace WQ

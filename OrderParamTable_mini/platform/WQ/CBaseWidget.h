@@ -19,11 +19,19 @@ class WQ_EXPORT CBaseWidget : public CEventWidgetT<QWidget>, public CUiResourceC
 {
     Q_OBJECT
 public:
-    /// @p objectName names the widget; with @p active it starts as the active one of its window.
+    /// @param objectName the widget's name
+    /// @param active whether it starts as the active one of its window
+    /// @param parent the owner; may be null
     CBaseWidget(QString objectName, bool active, QWidget* parent);
     ~CBaseWidget() override;
 
     /// Answers false: nothing is handled here.
+    /// @param event the event's number
+    /// @param a its first number
+    /// @param b its second number
+    /// @param text its text
+    /// @param data its data, valid during the call only
+    /// @return whether it was handled for good
     bool handleEvent(int event, int a, int b, QString text, void* data) override;
 
     /// Repaints.
@@ -36,10 +44,12 @@ public:
     virtual void setFixFont();
 
     /// The part of the widget that a mask may cover, in its own coordinates: all of it.
+    /// @return pixels
     virtual QRect getMaskRect() const;
 
-    /// Makes the widget the active one or not; a change calls onActive(), and with @p takeFocus an activated widget
-    /// takes the keyboard focus.
+    /// Makes the widget the active one or not; becoming active calls onActive().
+    /// @param active whether it is the active one from now on
+    /// @param takeFocus whether an activated widget takes the keyboard focus
     virtual void setActive(bool active, bool takeFocus);
 
     /// Called after the widget became active. This one does nothing.
@@ -47,9 +57,12 @@ public:
 
 protected:
     /// Fills the widget with the window colour; called by the paint event.
+    /// @param painter open on the widget
     virtual void paintBackgroud(QPainter& painter);
 
+    /// @cond handlers
     void paintEvent(QPaintEvent* event) override;
+    /// @endcond
 
 private:
     std::unique_ptr<CBaseWidgetPrivate> const d;

@@ -8,7 +8,9 @@ namespace WQ {
 class WQ_EXPORT CCheckParamUnitCellDelegate : public CParamCellDelegate
 {
 public:
+    /// @cond constructors
     using CParamCellDelegate::CParamCellDelegate;
+    /// @endcond
     ~CCheckParamUnitCellDelegate() override;
 };
 

@@ -9,11 +9,15 @@ class WQ_EXPORT CCustomDialog : public CBaseDialog
 {
     Q_OBJECT
 public:
+    /// A dialog without the window manager's frame.
+    /// @param parent the owner; may be null
     explicit CCustomDialog(QWidget* parent);
     ~CCustomDialog() override;
 
 protected:
+    /// @cond handlers
     void paintEvent(QPaintEvent* event) override;
+    /// @endcond
 };
 
 } // namespace WQ

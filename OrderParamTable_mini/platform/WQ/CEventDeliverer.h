@@ -12,6 +12,7 @@ namespace WQ {
 class WQ_EXPORT CEventDeliverer
 {
 public:
+    /// Sends from the widget that it is a base of; without one nobody hears.
     CEventDeliverer();
     CEventDeliverer(const CEventDeliverer&) = delete;
     CEventDeliverer& operator=(const CEventDeliverer&) = delete;
@@ -19,11 +20,22 @@ public:
 
     /// Sends an event up the parent widgets, windows included: each ancestor that is a CEventDeliverer gets
     /// handleEvent(), until one answers true or is gone. Synchronous. The sender may be deleted on the way; callers
-    /// touch nothing of it afterwards unless they know it to be alive. @p data is the sender's and is valid during the
-    /// call only. More than 64 deliveries inside each other are cut off and reported once.
+    /// touch nothing of it afterwards unless they know it to be alive. What a listener throws passes through. More than
+    /// 64 deliveries inside each other are cut off and reported once.
+    /// @param event the event's number
+    /// @param a its first number
+    /// @param b its second number
+    /// @param text its text
+    /// @param data the sender's, valid during the call only; of the type that the event's number says, or null
     void deliverEvent(int event, int a, int b, QString text, void* data);
 
-    /// Receives an event; answers whether it was handled for good. This one answers false.
+    /// Receives an event; a host overrides it. This one answers false.
+    /// @param event the event's number
+    /// @param a its first number
+    /// @param b its second number
+    /// @param text its text
+    /// @param data its data, valid during the call only
+    /// @return whether it was handled for good
     virtual bool handleEvent(int event, int a, int b, QString text, void* data);
 };
 

@@ -9,6 +9,7 @@ template <class Widget>
 class CEventWidgetT : public Widget, public CEventDeliverer
 {
 public:
+    /// As the widget class.
     using Widget::Widget;
 };
 

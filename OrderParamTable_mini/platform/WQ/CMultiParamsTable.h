@@ -24,121 +24,224 @@ class CMultiParamsTablePrivate;
 /// Programmatic changes send no events. What a person commits is stored first; its event goes out when Qt's own handler
 /// has unwound, from this table: 73 combo changed, 87 number or range, 118 unit or check, 101 period, 102 line,
 /// 97 double click (not while the cells are disabled), 124 and 248 filter applied and reset. A person may also paste a
-/// value, and go back to the value, unit and check a cell was added with: with events as of a commit.
+/// value, and go back to the value, unit and check a cell was added with: with events as of a commit. Values of combos
+/// are ints or texts in a QVariant, never enumeration types, so that they compare.
+///
 /// A missing ID answers 0, an empty text, an invalid QVariant or a null item; setting it does nothing.
 class WQ_EXPORT CMultiParamsTable : public CEventWidgetT<QTableView>, public CUiResourceChangeHandler
 {
     Q_OBJECT
 public:
-    /// An empty table. With @p fontScale it follows the UI scale, otherwise it stays at scale 1.
+    /// An empty table.
+    /// @param parent the owner; may be null
+    /// @param fontScale whether it follows the UI scale; otherwise it stays at scale 1
     CMultiParamsTable(QWidget* parent, bool fontScale);
     ~CMultiParamsTable() override;
 
     /// @name Adding cells
-    /// Each adds one cell under the last one and answers its row, or -1 and changes nothing when @p id exists already.
+    /// Each adds one cell under the last one. An ID that exists already adds nothing.
     /// @{
 
-    /// A combo whose entry i shows texts[i] and carries values[i] (the shorter list counts); @p currentIndex outside
-    /// the list selects none. The bool means nothing here; the second alignment is the value's.
+    /// A combo whose entry i shows texts[i] and carries values[i]. The bool means nothing here.
+    /// @param id the cell, unique within the table
+    /// @param label shown at the left
+    /// @param texts what the entries show; not written
+    /// @param values what the entries carry; not written. Of lists of unequal length the shorter one counts
+    /// @param currentIndex the chosen entry; outside the list none is
+    /// @param labelAlignment of the label
+    /// @param valueAlignment of the value
+    /// @return its row; -1 when the ID exists already
     int addComboBox(int id, QString label, QStringList& texts, QVector<QVariant>& values, int currentIndex, bool,
                     QFlags<Qt::AlignmentFlag> labelAlignment, QFlags<Qt::AlignmentFlag> valueAlignment);
 
-    /// A number of @p valueType (2 int, 6 double, 10 text) with one unit. A text cell ignores the limits and starts
-    /// empty. A step of 0 is no step. The last argument means nothing here.
+    /// A number with one unit, or a text beside one. The last argument means nothing here.
+    /// @param id the cell, unique within the table
+    /// @param label shown at the left
+    /// @param valueType 2 int, 6 double, 10 text; a text cell ignores limits and value and starts empty
+    /// @param min smallest value
+    /// @param max largest value
+    /// @param step what Up and Down add, and the decimals that are shown; 0 is no step
+    /// @param unit shown behind the value; empty for none
+    /// @param value the first value, bounded
+    /// @return its row; -1 when the ID exists already
     int addParamCell(int id, QString label, int valueType, double min, double max, double step, QString unit,
                      double value, int);
 
-    /// A number whose unit is chosen among @p units, each with limits of its own; the first is current. The last
-    /// argument means nothing here.
+    /// A number whose unit a person chooses. The last argument means nothing here.
+    /// @param id the cell, unique within the table
+    /// @param label shown at the left
+    /// @param units each with limits of its own; the first is current
+    /// @param value the first value, bounded
+    /// @return its row; -1 when the ID exists already
     int addParamUnitCell(int id, QString label, QList<CParamCellUnitInfo> units, double value, double);
 
-    /// As addParamUnitCell(), with a check box labelled @p checkText.
+    /// As addParamUnitCell(), with a check box.
+    /// @param id the cell, unique within the table
+    /// @param label shown at the left
+    /// @param checkText the check box's
+    /// @param checked whether it is checked at first
+    /// @param units each with limits of its own; the first is current
+    /// @param value the first value, bounded
+    /// @return its row; -1 when the ID exists already
     int addCheckParamUnitCell(int id, QString label, QString checkText, bool checked, QList<CParamCellUnitInfo> units,
                               double value, double);
 
-    /// Two values, the lower first, shown with @p separator between them. The constants around the separator mean
-    /// nothing here.
+    /// Two values, the lower first. The constants around the separator mean nothing here.
+    /// @param id the cell, unique within the table
+    /// @param label shown at the left
+    /// @param valueType 2 int, 6 double
+    /// @param min smallest value
+    /// @param max largest value
+    /// @param low the first lower value
+    /// @param high the first higher value
+    /// @param step what Up and Down add, and the decimals that are shown; 0 is no step
+    /// @param unit shown behind the values; empty for none
+    /// @param separator shown between the values
+    /// @return its row; -1 when the ID exists already
     int addRangeCell(int id, QString label, int valueType, double min, double max, double low, double high, double step,
                      QString unit, double, int, QString separator, bool);
 
-    /// A period from @p start to @p end, as a clock range.
+    /// A period, as a clock range at first.
+    /// @param id the cell, unique within the table
+    /// @param label shown at the left
+    /// @param start its beginning; not written
+    /// @param end its end; not written
+    /// @return its row; -1 when the ID exists already
     int addTimePeriod(int id, QString label, QTime& start, QTime& end);
 
-    /// A line of text. With @p validated true, @p text is the validator's pattern and @p second the initial text;
-    /// otherwise @p text is the initial text and @p second the placeholder.
+    /// A line of text.
+    /// @param id the cell, unique within the table
+    /// @param label shown at the left
+    /// @param text with @p validated the pattern of what may be typed, else the initial text
+    /// @param validated whether there is a pattern
+    /// @param second with @p validated the initial text, else the placeholder
+    /// @return its row; -1 when the ID exists already
     int addLineEdit(int id, QString label, QString text, bool validated, QString second);
 
     /// @}
     /// @name Reading
     /// @{
 
-    /// The cell; null when there is none.
+    /// The cell itself.
+    /// @param id the cell
+    /// @return owned by the table; null when there is none
     CMultiParamsTableItem* getItem(int id) const;
 
-    /// The number of a cell, bounded into its current range; of a combo the value as a number; of a text cell the
-    /// number that its text is, else 0.
+    /// The number of a cell.
+    /// @param id the cell
+    /// @return in the current unit, within its range; of a combo the value as a number; of a text cell the number that
+    /// its
+    ///         text is, else 0
     double itemDouble(int id) const;
 
-    /// As itemDouble(), without the fraction, and stopped at the ends of 32 bits.
+    /// As itemDouble(), as a whole number.
+    /// @param id the cell
+    /// @return without the fraction, stopped at the ends of 32 bits
     int itemInt(int id) const;
 
-    /// The value of a combo's current entry, or a cell's own value; invalid when a combo has none chosen.
+    /// The value of a combo's current entry, or a cell's own value.
+    /// @param id the cell
+    /// @return invalid when a combo has none chosen
     QVariant itemData(int id);
 
-    /// The value as text: a number without grouping or unit, a combo's entry, a line's text, "HH:MM:SS-HH:MM:SS" of a
-    /// period.
+    /// The value as text.
+    /// @param id the cell
+    /// @return a number without grouping or unit, a combo's entry, a line's text, "HH:MM:SS-HH:MM:SS" of a period
     QString itemText(int id);
 
-    /// The text of the current unit; empty for a cell without unit.
+    /// The current unit.
+    /// @param id the cell
+    /// @return its text; empty for a cell without unit
     QString itemUnit(int id);
 
-    /// Whether a period is a clock range or a duration.
+    /// What a period is; a person may change it.
+    /// @param id the cell
+    /// @return TimeRangeClock at first
     EWqTimeRangeType itemTimeRangeType(int id);
 
-    /// Start and end of a period today, in whole seconds since the epoch; an end before its start is on the next day.
+    /// Start and end of a period today.
+    /// @param id the cell
+    /// @return whole seconds since the epoch; an end before its start is on the next day
     QPair<int, int> timeRange(int id);
 
-    /// The length of a period in seconds: the duration, or end less start.
+    /// The length of a period.
+    /// @param id the cell
+    /// @return seconds: the duration, or end less start
     int timeElapse(int id) const;
 
-    /// Minimum and maximum of a numeric cell's current unit.
+    /// The limits of a numeric cell's current unit.
+    /// @param id the cell
+    /// @return minimum and maximum
     QPair<double, double> cellRange(int id);
 
     /// @}
     /// @name Changing values
     /// @{
 
-    /// Re-limits the current unit of a numeric cell and bounds its value; a maximum below the minimum follows it.
+    /// Re-limits the current unit of a numeric cell and bounds its value.
+    /// @param id the cell
+    /// @param min smallest value
+    /// @param max largest value; below the minimum it follows that
     void resetCellRange(int id, double min, double max);
 
-    /// Sets the number, bounded into the current range; an int cell drops the fraction; not-a-number changes nothing.
+    /// Sets the number.
+    /// @param id the cell
+    /// @param value bounded into the current range; an int cell drops the fraction; not-a-number changes nothing
     void setItemDouble(int id, double value);
+
+    /// Sets the number.
+    /// @param id the cell
+    /// @param value bounded into the current range
     void setItemInt(int id, int value);
 
     /// Sets check mark and number of a check cell. The last argument means nothing here.
+    /// @param id the cell
+    /// @param checked whether it is checked
+    /// @param value bounded into the current range
     void setCheckDouble(int id, bool checked, double value, bool);
 
-    /// Chooses the entry that carries @p value; an unknown value keeps the choice.
+    /// Chooses an entry of a combo.
+    /// @param id the cell
+    /// @param value the first entry that carries it; an unknown value keeps the choice
     void setComboData(int id, QVariant value);
 
-    /// Replaces the entries (the shorter list counts); an index outside the list chooses none.
+    /// Replaces the entries of a combo.
+    /// @param id the cell
+    /// @param texts what the entries show
+    /// @param values what they carry; of lists of unequal length the shorter one counts
+    /// @param currentIndex the chosen entry; outside the list none is
     void resetComboData(int id, const QStringList& texts, const QVector<QVariant>& values, int currentIndex);
 
-    /// Sets the text of a text or line cell; on a number it takes a text that is a number and ignores others; on a
-    /// combo it chooses the entry of that text and ignores others.
+    /// Sets the value from a text.
+    /// @param id the cell
+    /// @param text any for a text or line cell; on a number one that is a number, on a combo one of an entry: others
+    /// are
+    ///        ignored
     void setItemText(int id, QString text);
 
     /// Sets the label.
+    /// @param id the cell
+    /// @param name the new label
     void setItemName(int id, QString name);
 
-    /// Makes the unit of that text current, or renames the current unit on a cell without it.
+    /// Chooses the unit.
+    /// @param id the cell
+    /// @param unit made current; on a cell without it the current unit is renamed
     void setItemUnit(int id, QString unit);
 
-    /// Sets the limits of that unit (a step of 0 keeps its step) and makes it current only when @p makeCurrent is set.
-    /// A unit that the cell lacks replaces the current one when @p makeCurrent is set and is ignored otherwise.
+    /// Sets the limits of a unit.
+    /// @param id the cell
+    /// @param unit one that the cell lacks replaces the current one with @p makeCurrent and is ignored otherwise
+    /// @param min smallest value, in that unit
+    /// @param max largest value, in that unit
+    /// @param step 0 keeps the step it has
+    /// @param makeCurrent whether the unit is chosen as well
     void setItemUnit(int id, QString unit, double min, double max, double step, bool makeCurrent);
 
-    /// Sets the step of that unit, current or not, and touches no value; an unknown unit is ignored.
+    /// Sets the step of a unit, and touches no value.
+    /// @param id the cell
+    /// @param unit current or not; an unknown one is ignored
+    /// @param step in that unit
     void setItemTick(int id, QString unit, double step);
 
     /// @}
@@ -147,42 +250,75 @@ public:
     /// holds it. The sets keep any ID they are given.
     /// @{
 
+    /// Lets a person edit one cell, or not.
+    /// @param id the cell
+    /// @param editable true for a new cell
     void setItemEditable(int id, bool editable);
+
+    /// Hides or shows one cell.
+    /// @param id the cell
+    /// @param hidden false for a new cell
     void setItemHidden(int id, bool hidden);
 
     /// Excludes a cell from the user's filter, or offers it again.
+    /// @param id the cell
+    /// @param excluded whether the filter leaves it out
     void setItemFilterBlacklist(int id, bool excluded);
+
+    /// Offers all cells in the filter again.
     void clearFilterBlacklist();
 
-    /// The IDs that the user has chosen to see; empty means no choice.
+    /// What the user has chosen to see.
+    /// @return the IDs; empty means no choice
     QSet<int> getVisibleItemIdSet();
+
+    /// Sets what the user has chosen to see.
+    /// @param ids empty for no choice
     void setVisibleItemSet(QSet<int> ids);
+
+    /// Adds to what the user has chosen to see.
+    /// @param id the cell
     void addVisibleItemSet(int id);
+
+    /// Takes from what the user has chosen to see.
+    /// @param id the cell
     void removeVisbleItemSet(int id);
 
-    /// The IDs that the user's filter may offer.
+    /// Sets what the user's filter may offer.
+    /// @param ids all cells that may be shown
     void setAllItemSet(QSet<int> ids);
+
+    /// Adds to what the user's filter may offer.
+    /// @param id the cell
     void addAllItemSet(int id);
 
-    /// Both empty the visible set; hidden cells stay hidden.
+    /// Empties the visible set; hidden cells stay hidden.
     void clearVisibleItem();
+
+    /// Empties the visible set; hidden cells stay hidden.
     void showAllItems();
 
+    /// Expands or collapses the table.
+    /// @param expand whether the user's choice is passed over
     void setExpand(bool expand);
 
     /// Shows or takes away the filter's footer under the last row.
+    /// @param visible true for a new table
     void setCustomWidgetVisible(bool visible);
 
     /// Brings the filter button and its open list up to date.
     void setMultiFilterWidgetParam();
 
     /// Lets a person edit the cells, or not.
+    /// @param enable whether cells can be edited
     void setAllItemEnable(bool enable);
 
-    /// With false, keeps the table at scale 1.
+    /// Chooses whether the table follows the UI scale.
+    /// @param fontScale false keeps it at scale 1
     void setFontScale(bool fontScale);
 
     /// The height that the shown cells need, the filter's footer included; exact at once, shown or not.
+    /// @return pixels
     int realHeight() const;
 
     /// @}
@@ -193,11 +329,14 @@ public:
     /// Repaints in the colours of the current theme.
     void themeChanged() override;
 
+    /// @cond handlers
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     void setSelectionModel(QItemSelectionModel* selectionModel) override;
+    /// @endcond
 
 protected:
+    /// @cond handlers
     bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -220,6 +359,7 @@ protected:
     void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QVector<int>& roles) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
+    /// @endcond
 
 private:
     friend class CMultiParamsTablePrivate;

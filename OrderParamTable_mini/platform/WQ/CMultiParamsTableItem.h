@@ -15,15 +15,19 @@ class CellItem;
 class WQ_EXPORT CMultiParamsTableItem
 {
 public:
+    /// Made by the table.
+    /// @param cell what the toolkit's table has made
     explicit CMultiParamsTableItem(std::unique_ptr<CellItem> cell);
     CMultiParamsTableItem(const CMultiParamsTableItem&) = delete;
     CMultiParamsTableItem& operator=(const CMultiParamsTableItem&) = delete;
     virtual ~CMultiParamsTableItem();
 
     /// The cell's ID, unique within its table.
+    /// @return as it was added
     int id() const;
 
     /// What the cell holds and how it behaves: the toolkit's own, opaque to its callers.
+    /// @return owned by this
     CellItem* cell() const;
 
 private:

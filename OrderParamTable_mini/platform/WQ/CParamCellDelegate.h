@@ -8,10 +8,13 @@ namespace WQ {
 class WQ_EXPORT CParamCellDelegate : public CMultiParamsTableItem
 {
 public:
+    /// @cond constructors
     using CMultiParamsTableItem::CMultiParamsTableItem;
+    /// @endcond
     ~CParamCellDelegate() override;
 
     /// The text of the current unit.
+    /// @return empty for a cell without unit
     QString unit() const;
 };
 

@@ -17,39 +17,60 @@ class WQ_EXPORT CPushButton : public CEventWidgetT<QPushButton>, public CUiResou
 {
     Q_OBJECT
 public:
-    /// A button with the four background colours of @p color, of which an empty key paints none. It can be checked.
+    /// A button that can be checked.
+    /// @param color its four background colours; an empty key paints none
+    /// @param id its click event carries it
+    /// @param parent the owner; may be null
     CPushButton(const CButtonColor& color, int id, QWidget* parent);
 
-    /// A button that shows the image of @p imageKey; the numbers after the ID mean nothing here.
+    /// A button that shows an image; the numbers after the ID mean nothing here.
+    /// @param imageKey the image
+    /// @param id its click event carries it
+    /// @param parent the owner; may be null
     CPushButton(const QString& imageKey, int id, int, int, int, int, QWidget* parent);
 
     ~CPushButton() override;
 
     /// The ID that its click event carries.
+    /// @return the constructor's
     int id() const;
 
-    /// The colour keys of the text at rest, under the mouse, checked, disabled; null keeps the key it has.
+    /// The colour keys of the text; null keeps the key it has.
+    /// @param normal at rest
+    /// @param hover under the mouse
+    /// @param checked while checked
+    /// @param disabled while disabled
     void setTextColorKey(const char* normal, const char* hover, const char* checked, const char* disabled);
 
+    /// Chooses how the button shows that it is down.
+    /// @param style another value than the enumerated ones shows no mark
     void setButtonDownStyle(EPushButtonDownStyle style);
 
-    /// Shows the image of @p imageKey; the number after the place means nothing here. An empty key shows none.
+    /// Shows an image; the number after the place means nothing here.
+    /// @param imageKey the image; empty for none
+    /// @param align its place
     void setIcon(const QString& imageKey, EIconAlign align, int);
 
-    /// The key of the image it shows; empty when none.
+    /// The image it shows.
+    /// @return its key; empty when none
     QString iconKey() const;
 
-    /// The width that text and image need, in pixels.
+    /// The width that text and image need.
+    /// @return pixels at the current UI scale
     int getMinWidth() const;
 
+    /// @cond handlers
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    /// @endcond
     void themeChanged() override;
     void scaleChanged() override;
 
 protected:
+    /// @cond handlers
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
+    /// @endcond
 
 private:
     std::unique_ptr<CPushButtonPrivate> const d;

@@ -16,25 +16,32 @@ class WQ_EXPORT CScrollArea : public CEventWidgetT<QScrollArea>, public CUiResou
 {
     Q_OBJECT
 public:
+    /// An empty area.
+    /// @param parent the owner; may be null
     explicit CScrollArea(QWidget* parent);
     ~CScrollArea() override;
 
-    /// Puts @p widget, which keeps the size it has, into the area and takes it over.
+    /// Puts a widget into the area and takes it over.
+    /// @param widget keeps the size it has
     void setWidget(QWidget* widget);
 
     /// The colour key of the ground behind the widget.
+    /// @param key an unknown one takes a visible fallback and is reported once
     void setBackgroundColorKey(QString key);
 
-    /// The width of the vertical scroll bar in pixels, shown or not.
+    /// The width of the vertical scroll bar.
+    /// @return pixels at the current UI scale, shown or not
     int getScrollBarWidth() const;
 
     void themeChanged() override;
     void scaleChanged() override;
 
 protected:
+    /// @cond handlers
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    /// @endcond
 
 private:
     std::unique_ptr<CScrollAreaPrivate> const d;

@@ -12,20 +12,24 @@ class WQ_EXPORT CUiResource
 {
 public:
     /// The one instance of the process; lives until the program ends.
+    /// @return null where a client has none
     static CUiResource* instance();
 
     CUiResource(const CUiResource&) = delete;
     CUiResource& operator=(const CUiResource&) = delete;
 
-    /// The size of @p key in pixels at the current UI scale. An unknown key answers a visible fallback and is reported
-    /// once.
+    /// A size at the current UI scale.
+    /// @param key an unknown one answers a visible fallback and is reported once
+    /// @return pixels
     int getSize(const QString& key) const;
 
-    /// The colour of @p key in the current theme. The pointer stays valid as long as the program runs and what it
-    /// points at follows the theme. An unknown key answers a visible fallback and is reported once; never null.
+    /// A colour in the current theme.
+    /// @param key an unknown one answers a visible fallback and is reported once
+    /// @return never null, valid as long as the program runs; what it points at follows the theme
     const QColor* getColor(const QString& key) const;
 
-    /// The UI scale, 1.0 to 3.0. The screen's pixel ratio comes on top of it.
+    /// The UI scale. The screen's pixel ratio comes on top of it.
+    /// @return 1.0 to 3.0
     double getUIScale() const;
 
 private:

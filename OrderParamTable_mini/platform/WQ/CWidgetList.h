@@ -17,28 +17,47 @@ class WQ_EXPORT CWidgetList : public CEventWidgetT<QWidget>, public CUiResourceC
 {
     Q_OBJECT
 public:
+    /// An empty strip.
+    /// @param orientation side by side or one above the other
+    /// @param parent the owner; may be null
     CWidgetList(Qt::Orientation orientation, QWidget* parent);
     ~CWidgetList() override;
 
-    /// Left, top, right, bottom margin in pixels; a negative one counts as 0.
+    /// The room around the widgets, in pixels; a negative one counts as 0.
+    /// @param left at the left
+    /// @param top at the top
+    /// @param right at the right
+    /// @param bottom at the bottom
     void setMargin(int left, int top, int right, int bottom);
 
-    /// The gap between neighbours in pixels; a negative one counts as 0.
+    /// The gap between neighbours.
+    /// @param spacing pixels; a negative one counts as 0
     void setSpacing(int spacing);
 
-    /// Adds a widget that grows by @p stretch; answers its position, -1 for null. The last argument means nothing here.
+    /// Adds a widget that grows. The last argument means nothing here.
+    /// @param widget owned by the strip from now on
+    /// @param stretch its share of the room that is left
+    /// @param anchor its place
+    /// @return its position; -1 for null
     int addStretchWidget(QWidget* widget, int stretch, EWidgetAnchor anchor, bool);
 
-    /// Adds a widget at its own size; answers its position, -1 for null. The last argument means nothing here.
+    /// Adds a widget at its own size. The last argument means nothing here.
+    /// @param widget owned by the strip from now on
+    /// @param anchor its place
+    /// @return its position; -1 for null
     int addFixedWidget(QWidget* widget, EWidgetAnchor anchor, bool);
 
-    /// Adds an empty gap of that many pixels; answers its position.
+    /// Adds an empty gap.
+    /// @param size pixels
+    /// @return its position
     int addFixedSpace(int size);
 
     void themeChanged() override;
 
 protected:
+    /// @cond handlers
     void paintEvent(QPaintEvent* event) override;
+    /// @endcond
 
 private:
     std::unique_ptr<CWidgetListPrivate> const d;

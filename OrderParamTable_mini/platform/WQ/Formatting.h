@@ -14,23 +14,40 @@ namespace WQ {
 enum EFormatFlag : int {
     FormatPlain = 0, ///< digits and point alone, no grouping
 };
+
+/// Any of them.
 using FormatFlags = QFlags<EFormatFlag>;
 
-/// @p value with exactly @p decimals decimals (0 to 20): the digits of QString::number(value, 'f', decimals), point "."
-/// whatever the locale, no grouping, no sign on what rounds to zero. NaN, infinities and the no-price value answer
-/// @p invalidText. The bool means nothing here.
+/// A number with so many decimals: the digits of QString::number(value, 'f', decimals), point "." whatever the locale,
+/// no grouping, no sign on what rounds to zero. The bool means nothing here.
+/// @param value any
+/// @param decimals 0 to 20
+/// @param flags FormatPlain
+/// @param invalidText answered for NaN, infinities and the no-price value
+/// @return the number as text
 WQ_EXPORT QString formatDoubleNumber(long double value, int decimals, FormatFlags flags, bool,
                                      const QString& invalidText);
 
-/// @p value in plain decimal, at least @p width characters wide, filled with blanks at the left.
+/// A whole number in plain decimal.
+/// @param value any
+/// @param width the fewest characters, filled with blanks at the left
+/// @param flags FormatPlain
+/// @return the number as text
 WQ_EXPORT QString formatIntNumber(int value, int width, FormatFlags flags);
 
-/// A text of the client's records, UTF-8, as QString.
+/// A text of the client's records.
+/// @param text UTF-8
+/// @return the same text
 WQ_EXPORT QString sToQs(const std::string& text);
 
-/// Whole seconds since the epoch as local date and time, and back (stopped at the ends of 32 bits; an invalid date and
-/// time answers 0).
+/// A time of the client's records.
+/// @param seconds whole seconds since the epoch
+/// @return local date and time
 WQ_EXPORT QDateTime secondToQDateTime(int seconds);
+
+/// A date and time as the client's records have it.
+/// @param dateTime an invalid one answers 0
+/// @return whole seconds since the epoch, stopped at the ends of 32 bits
 WQ_EXPORT int qDateTimeToSecond(QDateTime dateTime);
 
 } // namespace WQ

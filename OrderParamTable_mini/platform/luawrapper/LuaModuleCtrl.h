@@ -15,12 +15,15 @@ class WQ_EXPORT LuaModuleCtrl
 {
 public:
     /// The one instance of the process; lives until the program ends.
+    /// @return null where a client has none
     static LuaModuleCtrl* instance();
 
     LuaModuleCtrl(const LuaModuleCtrl&) = delete;
     LuaModuleCtrl& operator=(const LuaModuleCtrl&) = delete;
 
-    /// Whether the module that @p path names, parent module first, is switched on; false for one it does not know.
+    /// Whether a module is switched on.
+    /// @param path group and name, for instance mdl_order, mdl_order_command_remark
+    /// @return false for one it does not know
     bool checkModule(std::list<std::string> path);
 
 private:
@@ -31,6 +34,9 @@ private:
 };
 
 /// The two-element module path: parent << module.
+/// @param parent the group
+/// @param module the name
+/// @return the path that checkModule() takes
 inline std::list<std::string> operator<<(const std::string& parent, const std::string& module)
 {
     return {parent, module};

@@ -21,31 +21,31 @@ enum EOrderType : int {
 
 /// What price an order is placed at.
 enum EPriceType : int {
-    PRTP_NONE = -1,        ///< none chosen; as a way to handle unfinished orders: leave them
-    PRTP_SELL5 = 0,        ///< fifth ask price
-    PRTP_SELL4 = 1,        ///< fourth ask price
-    PRTP_SELL3 = 2,        ///< third ask price
-    PRTP_SELL2 = 3,        ///< second ask price
-    PRTP_SELL1 = 4,        ///< best ask price
-    PRTP_LATEST = 5,       ///< last traded price
-    PRTP_BUY1 = 6,         ///< best bid price
-    PRTP_BUY2 = 7,         ///< second bid price
-    PRTP_BUY3 = 8,         ///< third bid price
-    PRTP_BUY4 = 9,         ///< fourth bid price
-    PRTP_BUY5 = 10,        ///< fifth bid price
-    PRTP_FIX = 11,         ///< a price that the user types
-    PRTP_MARKET = 12,      ///< market order; reported while a parameter-set mode is on
-    PRTP_SELF_QUEUE = 13,  ///< own-side queue price
-    PRTP_COUNTERPART = 14, ///< counter-party price
-    PRTP_AUTO_BOOK = 15,   ///< chosen automatically from the order book
-    PRTP_PRE_CLOSE = 16,   ///< previous close
-    PRTP_MARKET_18 = 18,   ///< market orders 18 to 24
-    PRTP_MARKET_19 = 19,
-    PRTP_MARKET_20 = 20,
-    PRTP_MARKET_21 = 21,
-    PRTP_MARKET_22 = 22,
-    PRTP_MARKET_23 = 23,
-    PRTP_MARKET_24 = 24,
+    PRTP_NONE = -1,                ///< none chosen; as a way to handle unfinished orders: leave them
+    PRTP_SELL5 = 0,                ///< fifth ask price
+    PRTP_SELL4 = 1,                ///< fourth ask price
+    PRTP_SELL3 = 2,                ///< third ask price
+    PRTP_SELL2 = 3,                ///< second ask price
+    PRTP_SELL1 = 4,                ///< best ask price
+    PRTP_LATEST = 5,               ///< last traded price
+    PRTP_BUY1 = 6,                 ///< best bid price
+    PRTP_BUY2 = 7,                 ///< second bid price
+    PRTP_BUY3 = 8,                 ///< third bid price
+    PRTP_BUY4 = 9,                 ///< fourth bid price
+    PRTP_BUY5 = 10,                ///< fifth bid price
+    PRTP_FIX = 11,                 ///< a price that the user types
+    PRTP_MARKET = 12,              ///< market order; reported while a parameter-set mode is on
+    PRTP_SELF_QUEUE = 13,          ///< own-side queue price
+    PRTP_COUNTERPART = 14,         ///< counter-party price
+    PRTP_AUTO_BOOK = 15,           ///< chosen automatically from the order book
+    PRTP_PRE_CLOSE = 16,           ///< previous close
+    PRTP_MARKET_18 = 18,           ///< market order
+    PRTP_MARKET_19 = 19,           ///< market order
+    PRTP_MARKET_20 = 20,           ///< market order
+    PRTP_MARKET_21 = 21,           ///< market order
+    PRTP_MARKET_22 = 22,           ///< market order
+    PRTP_MARKET_23 = 23,           ///< market order
+    PRTP_MARKET_24 = 24,           ///< market order
     PRTP_OPT_FIX_FOK = 26,         ///< option limit order, fill or kill
     PRTP_OPT_MARKET_FAK = 27,      ///< option market order, fill and kill
     PRTP_OPT_MARKET_FOK = 28,      ///< option market order, fill or kill
@@ -70,9 +70,9 @@ enum EOperationType : int {
     OPT_REPAY_CASH_BY_SELLING = 24,      ///< credit: sell to pay back cash
     OPT_REPAY_CASH_HELD = 25,            ///< credit: pay back cash held
     OPT_WITHOUT_BASE_PRICE_40 = 40,      ///< operations whose task has no base price
-    OPT_WITHOUT_BASE_PRICE_41 = 41,
-    OPT_REPAY_LENDING_FEES = 1021, ///< credit: pay interest and fees of securities lending
-    OPT_WITHOUT_BASE_PRICE_1089 = 1089,
+    OPT_WITHOUT_BASE_PRICE_41 = 41,      ///< as 40
+    OPT_REPAY_LENDING_FEES = 1021,       ///< credit: pay interest and fees of securities lending
+    OPT_WITHOUT_BASE_PRICE_1089 = 1089,  ///< as 40
 };
 
 /// What the volume of one order is measured by.
@@ -116,9 +116,9 @@ enum ENVBrokerType : int {
 
 /// The kind of trading desk that hosts a table.
 enum ENvTraderType : int {
-    TRADER_TYPE_1 = 1,
-    TRADER_TYPE_2 = 2,
-    TRADER_TYPE_4 = 4,
+    TRADER_TYPE_1 = 1,       ///< may randomise volumes and offer the previous close
+    TRADER_TYPE_2 = 2,       ///< has default records of its own
+    TRADER_TYPE_4 = 4,       ///< may offer the previous close; its task dialogs have no facts
     TRADER_TYPE_4096 = 4096, ///< like 4 where composite price types are listed
 };
 

@@ -13,6 +13,7 @@ public:
     virtual ~IData();
 
     /// The key under which the client knows the object.
+    /// @return UTF-8
     virtual std::string getKey() const = 0;
 };
 
