@@ -43,6 +43,15 @@ constexpr const char* kTyped[] = {"0", "1", "5", "12", "100", "2000", "0.5", "9.
                                   "10:30:00", "24:00:00", "101500", "abc", ".", "-", "e", "+", "7x"};
 // clang-format on
 
+struct HeldKey
+{
+    Qt::KeyboardModifier modifier;
+    Qt::Key key;
+};
+
+constexpr HeldKey kHeldKeys[] = {
+    {Qt::ShiftModifier, Qt::Key_Shift}, {Qt::ControlModifier, Qt::Key_Control}, {Qt::AltModifier, Qt::Key_Alt}};
+
 constexpr Qt::KeyboardModifiers kHeld[] = {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
                                            Qt::ControlModifier};
 
@@ -148,12 +157,26 @@ void Input::release(const Place& place, Qt::MouseButton button, Qt::KeyboardModi
         QTest::mouseRelease(window, button, modifiers, inside(place.at, window->size()));
 }
 
-void Input::pressKey(const Place& place, Qt::Key key, Qt::KeyboardModifiers modifiers)
+void Input::sendKey(const Place& place, bool isDown, int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
     if (place.window)
-        QTest::keyPress(place.window.data(), key, modifiers);
-    if (place.window)
-        QTest::keyRelease(place.window.data(), key, modifiers);
+        QTest::simulateEvent(place.window.data(), isDown, key, modifiers, text, false);
+}
+
+// Each key that is held goes out by itself, and the window may go with any of them: Alt closes a menu.
+void Input::pressKey(const Place& place, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    const char ascii = QTest::keyToAscii(key);
+    const QString text = ascii ? QString(QLatin1Char(ascii)) : QString();
+    const auto hold = [&](bool isDown) {
+        for (const HeldKey& held : kHeldKeys)
+            if (modifiers & held.modifier)
+                sendKey(place, isDown, held.key, Qt::NoModifier, QString());
+    };
+    hold(true);
+    for (const bool isDown : {true, false})
+        sendKey(place, isDown, key, modifiers, text);
+    hold(false);
 }
 
 void Input::click(const Place& place)
@@ -216,9 +239,9 @@ void Input::key(const Place& place)
 
 void Input::type(const Place& place)
 {
-    for (const char* at = m_random.pick(kTyped); *at && place.window; ++at)
-        QTest::sendKeyEvent(QTest::Click, place.window.data(), QTest::asciiToKey(*at), QString(QLatin1Char(*at)),
-                            Qt::NoModifier);
+    for (const char* at = m_random.pick(kTyped); *at; ++at)
+        for (const bool isDown : {true, false})
+            sendKey(place, isDown, QTest::asciiToKey(*at), Qt::NoModifier, QString(QLatin1Char(*at)));
 }
 
 // What people mostly do: point at something, type over it and say that this is it.

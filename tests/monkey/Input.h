@@ -45,7 +45,8 @@ private:
     Place placeIn(QWidget* window);
     void press(const Place& place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     void release(const Place& place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
-    void pressKey(const Place& place, Qt::Key key, Qt::KeyboardModifiers modifiers);
+    static void sendKey(const Place& place, bool isDown, int key, Qt::KeyboardModifiers modifiers, const QString& text);
+    static void pressKey(const Place& place, Qt::Key key, Qt::KeyboardModifiers modifiers);
 
     void click(const Place& place);
     void doubleClick(const Place& place);
