@@ -78,6 +78,7 @@ ComparePanel::ComparePanel(TableBench& bench, QWidget* parent)
     listenTo(m_right);
     m_texts->keep([this] {
         m_model->retranslate();
+        refresh();
         showCount();
     });
 }
@@ -143,6 +144,14 @@ void ComparePanel::compare(const CompareSetup& left, const CompareSetup& right)
     m_left->setSetup(left);
     m_right->setSetup(right);
     refresh();
+}
+
+void ComparePanel::compareWithPanel()
+{
+    const CompareSetup setup = setupOf(m_bench);
+    compare(setup, setup);
+    m_differencesOnly->setChecked(true);
+    m_right->focusBroker();
 }
 
 void ComparePanel::refresh()

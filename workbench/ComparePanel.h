@@ -27,6 +27,10 @@ public:
     /// Compares these two from now on.
     void compare(const CompareSetup& left, const CompareSetup& right);
 
+    /// Compares the order panel with itself, the keyboard in the right one's broker type: what differs afterwards is
+    /// what the person makes of it.
+    void compareWithPanel();
+
     CompareModel* model() const;
 
     /// The rows that are shown, a line of titles first: commas for a name that ends in ".csv", else tabs. What went

@@ -87,6 +87,36 @@ QString priceTypeText(const Json& table)
     return QStringLiteral("%1 %2").arg(type).arg(labelOf(priceTypes(), type)).trimmed();
 }
 
+QString orderTypeText(const Json& table)
+{
+    return valueWithName(orderTypes(), table["orderType"].get<int>());
+}
+
+struct KindName
+{
+    const char* kind;
+    const char* name;
+};
+
+constexpr KindName kKindNames[] = {
+    {"combo", QT_TRANSLATE_NOOP("workbench", "list")},
+    {"number", QT_TRANSLATE_NOOP("workbench", "number")},
+    {"checkNumber", QT_TRANSLATE_NOOP("workbench", "number with a box")},
+    {"range", QT_TRANSLATE_NOOP("workbench", "range")},
+    {"timePeriod", QT_TRANSLATE_NOOP("workbench", "period")},
+    {"line", QT_TRANSLATE_NOOP("workbench", "line")},
+    {"text", QT_TRANSLATE_NOOP("workbench", "text")},
+};
+
+QString kindText(const Json& cell)
+{
+    const QString kind = member(cell, "kind");
+    for (const KindName& row : kKindNames)
+        if (kind == QLatin1String(row.kind))
+            return translated(row.name);
+    return kind;
+}
+
 QString memberOf(const Json& table, const char* part, const char* name)
 {
     return table[part].is_object() ? member(table[part], name) : QString();
@@ -100,7 +130,7 @@ struct Fact
 
 // clang-format off
 const Fact kTableFacts[] = {
-    {QT_TRANSLATE_NOOP("workbench", "order type"),        [](const Json& t) { return member(t, "orderType"); }},
+    {QT_TRANSLATE_NOOP("workbench", "order type"),        orderTypeText},
     {QT_TRANSLATE_NOOP("workbench", "price type"),        priceTypeText},
     {QT_TRANSLATE_NOOP("workbench", "expanded"),          [](const Json& t) { return member(t, "expand"); }},
     {QT_TRANSLATE_NOOP("workbench", "mode strip hidden"), [](const Json& t) { return memberOf(t, "strip", "hidden"); }},
@@ -113,7 +143,7 @@ const Fact kCellFacts[] = {
     {QT_TRANSLATE_NOOP("workbench", "in the table"), [](const Json&) { return textOf(true); }},
     {QT_TRANSLATE_NOOP("workbench", "shown"),        [](const Json& c) { return member(c, "shown"); }},
     {QT_TRANSLATE_NOOP("workbench", "label"),        [](const Json& c) { return member(c, "label"); }},
-    {QT_TRANSLATE_NOOP("workbench", "kind"),         [](const Json& c) { return member(c, "kind"); }},
+    {QT_TRANSLATE_NOOP("workbench", "kind"),         kindText},
     {QT_TRANSLATE_NOOP("workbench", "value"),        valueText},
     {QT_TRANSLATE_NOOP("workbench", "unit"),         [](const Json& c) { return member(c, "unit"); }},
     {QT_TRANSLATE_NOOP("workbench", "limits"),       limitsText},

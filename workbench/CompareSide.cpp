@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -137,6 +138,12 @@ CompareSetup CompareSide::setup() const
         if (action->isChecked())
             setup.modules << action->data().toString();
     return setup;
+}
+
+void CompareSide::focusBroker()
+{
+    m_broker->setFocus(Qt::ShortcutFocusReason);
+    m_broker->lineEdit()->selectAll();
 }
 
 void CompareSide::setSetup(const CompareSetup& setup)

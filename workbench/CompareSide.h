@@ -28,6 +28,9 @@ public:
 
     CompareSetup setup() const;
 
+    /// Puts the keyboard into the broker type, which is selected.
+    void focusBroker();
+
     /// Shows it without announcing it.
     void setSetup(const CompareSetup& setup);
 

@@ -126,6 +126,12 @@ EventRecord capture(int event, int a, int b, const QString& text, const void* da
     return {0, event, a, b, shortened(text), dataText(row ? row->data : Data::Nothing, data)};
 }
 
+int eventCell(const EventRecord& record)
+{
+    const EventRow* row = rowOf(record.event);
+    return row && row->source == Source::Cell && record.a != kCreditTableId ? record.a : 0;
+}
+
 QString eventName(const EventRecord& record)
 {
     const EventRow* row = rowOf(record.event);

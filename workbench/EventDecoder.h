@@ -22,6 +22,9 @@ constexpr int kLongestKeptText = 400;
 /// COrderParamBaseTable, 1213 an int; other events' data is not read.
 EventRecord capture(int event, int a, int b, const QString& text, const void* data);
 
+/// The cell that the event came from; 0 where it came from none.
+int eventCell(const EventRecord& record);
+
 /// "129  changed"; the bare number for an event without a name.
 QString eventName(const EventRecord& record);
 

@@ -73,6 +73,11 @@ qint64 EventLogModel::arrived() const
     return m_arrived;
 }
 
+EventRecord EventLogModel::record(int row) const
+{
+    return row >= 0 && row < rowCount() ? m_records[static_cast<std::size_t>(row)] : EventRecord();
+}
+
 void EventLogModel::retranslate()
 {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
@@ -98,8 +103,13 @@ QVariant EventLogModel::data(const QModelIndex& index, int role) const
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
+    const EventRecord& record = m_records[static_cast<std::size_t>(index.row())];
     const qint64 sequence = m_arrived - rowCount() + index.row() + 1;
-    return cellText(m_records[static_cast<std::size_t>(index.row())], index.column(), sequence);
+    const QString text = cellText(record, index.column(), sequence);
+    if (role == Qt::DisplayRole || eventCell(record) == 0)
+        return text;
+    const QString way = translated(QT_TRANSLATE_NOOP("workbench", "Enter or double-click: to the cell"));
+    return text.isEmpty() ? way : text + QLatin1Char('\n') + way;
 }
 
 QVariant EventLogModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -25,6 +25,9 @@ public:
     /// How many events arrived since the start, those that are no longer kept included.
     qint64 arrived() const;
 
+    /// The event of that row; an empty one outside the rows.
+    EventRecord record(int row) const;
+
     /// Names and headers in the language of the program.
     void retranslate();
 

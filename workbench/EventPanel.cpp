@@ -77,8 +77,16 @@ void EventPanel::createView()
     m_view->setModel(m_filtered);
     m_view->setFitColumns([this] { fitColumns(*m_view); });
     connect(m_view, &HostTable::copyRequested, this, &EventPanel::copy);
+    connect(m_view, &HostTable::doubleClicked, this, &EventPanel::askForCell);
+    connect(m_view, &HostTable::enterPressed, this, &EventPanel::askForCell);
     m_texts->keep([this] { m_view->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Events"))); });
     layout()->addWidget(m_view);
+}
+
+void EventPanel::askForCell(const QModelIndex& index)
+{
+    if (const int cell = eventCell(m_model->record(m_filtered->mapToSource(index).row())))
+        Q_EMIT cellWanted(cell);
 }
 
 void EventPanel::createBar()

@@ -5,6 +5,7 @@
 class QCheckBox;
 class QLabel;
 class QLineEdit;
+class QModelIndex;
 class QSortFilterProxyModel;
 
 namespace workbench {
@@ -32,7 +33,12 @@ public:
 
     void focusFilter();
 
+Q_SIGNALS:
+    /// A person wants to see the cell that an event came from.
+    void cellWanted(int cell);
+
 private:
+    void askForCell(const QModelIndex& index);
     void createView();
     void createBar();
     void showCount();

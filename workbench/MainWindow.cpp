@@ -1,6 +1,7 @@
 #include "workbench/MainWindow.h"
 
 #include "workbench/Appearance.h"
+#include "workbench/ChangeText.h"
 #include "workbench/CreditPanel.h"
 #include "workbench/EventPanel.h"
 #include "workbench/HostCalls.h"
@@ -9,6 +10,7 @@
 #include "workbench/LanguageTexts.h"
 #include "workbench/LookForm.h"
 #include "workbench/OrderControls.h"
+#include "workbench/OrderHeader.h"
 #include "workbench/QuoteLadder.h"
 #include "workbench/QuoteModel.h"
 #include "workbench/QuotePanel.h"
@@ -23,14 +25,13 @@
 
 #include "reference/services/ServiceControl.h"
 #include "reference/toolkit/Resources.h"
+#include "replay/State.h"
 
-#include <TC/DataCenter.h>
-#include <WQ/Formatting.h>
-#include <ttservice/CAccountInfoV2.h>
+#include <ttservice/Enumerations.h>
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QSet>
+#include <QLabel>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -44,11 +45,9 @@ constexpr QSize kFirstSize(1180, 760);
 QStringList creditAccounts()
 {
     QStringList ids;
-    for (const std::string& key : reference::accountKeys()) {
-        const auto account = TC::DataCenter::instance()->getAccountInfo(key);
-        if (account && account->brokerType == ttservice::BROKER_TYPE_CREDIT)
-            ids << WQ::sToQs(account->accountId);
-    }
+    for (const HostAccount& account : hostAccounts())
+        if (account.brokerType == ttservice::BROKER_TYPE_CREDIT)
+            ids << account.id;
     return ids;
 }
 
@@ -63,6 +62,8 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
     , m_look(new LookForm)
     , m_host(new HostForm)
     , m_controls(new OrderControls)
+    , m_header(new OrderHeader)
+    , m_changes(new QLabel)
     , m_events(new EventPanel)
     , m_tasks(new TaskPanel)
     , m_credit(new CreditPanel(m_recorder))
@@ -83,8 +84,13 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
     for (PanelHost* host :
          {static_cast<PanelHost*>(m_bench), static_cast<PanelHost*>(m_tasks), static_cast<PanelHost*>(m_credit)})
         listenTo(host);
+    m_changes->setObjectName(QStringLiteral("changes"));
+    m_changes->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(m_changes, 1);
     m_texts->keep([this] { setWindowTitle(translated(QT_TRANSLATE_NOOP("workbench", "Order parameter workbench"))); });
 
+    m_header->setInstruments(instrumentsOf(hostData.tasks));
+    m_header->setAccounts(hostAccounts());
     m_tasks->setTasks(std::move(hostData.tasks));
     m_credit->setAccounts(creditAccounts());
     m_form->setModules(reference::modules().values());
@@ -95,17 +101,25 @@ MainWindow::MainWindow(HostData hostData, QWidget* parent)
         showProblem(problem);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    reference::setConfigurationListener({});
+}
 
 void MainWindow::createCentre()
 {
     auto* centre = new QWidget;
     auto* layout = new QHBoxLayout(centre);
     layout->setContentsMargins(16, 12, 16, 12);
+    auto* panel = new QVBoxLayout;
+    panel->setSpacing(0);
+    panel->addWidget(m_header);
+    panel->addWidget(m_bench, 1);
     layout->addStretch(1);
-    layout->addWidget(m_bench);
+    layout->addLayout(panel);
     layout->addStretch(1);
     setCentralWidget(centre);
+    connectHeader();
     connect(m_form, &SetupForm::setupChanged, this, &MainWindow::showTable);
     connect(m_bench, &TableBench::rebuilt, m_controls, &OrderControls::setTable);
     connectLadder();
@@ -117,9 +131,9 @@ QWidget* MainWindow::createSetup()
     auto* layout = new QVBoxLayout(both);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_look);
     layout->addWidget(m_form);
     layout->addWidget(m_host);
+    layout->addWidget(m_look);
     layout->addStretch(1);
     connect(m_look, &LookForm::themeChosen, this, &MainWindow::chooseTheme);
     connect(m_look, &LookForm::scaleChosen, this, &MainWindow::chooseScale);
@@ -162,6 +176,14 @@ void MainWindow::readTable()
 {
     m_controls->refresh();
     m_ticket->refresh();
+    const QString code = m_controls->drive().code;
+    if (m_quotes->instrument().code != code) {
+        m_header->showInstrument(code);
+        m_quotes->setInstrument(m_header->instrument());
+    }
+    m_header->showBroker(m_bench->setup().brokerType);
+    if (m_bench->table())
+        m_header->showOperation(m_bench->table()->getOperationType());
     ladder()->quotes()->setChosen(m_bench->table() ? int(m_bench->table()->priceType()) : -1);
     m_keeper->commit();
 }
@@ -173,9 +195,10 @@ void MainWindow::rebuildTable()
     m_keeper->commit();
 }
 
-/// Makes the order panel of the form as it was left.
+/// Makes the order panel of the form as it was left, and says what that has made of it.
 void MainWindow::showTable()
 {
+    const replay::Json before = m_bench->table() ? replay::stateOf(m_bench->table()) : replay::Json();
     if (m_isKept && m_bench->table())
         m_memory.remember(m_bench->setup(), *m_bench->table());
     const TableSetup setup = m_form->setup();
@@ -183,6 +206,16 @@ void MainWindow::showTable()
     if (m_isKept && m_bench->table())
         m_memory.recall(setup, *m_bench->table(), m_controls->drive().enabled);
     readTable();
+    if (m_bench->table() && before.is_object())
+        sayChanges(changeText(compareTables(before, replay::stateOf(m_bench->table()))));
+}
+
+/// It takes the place of a problem, which stays in the tooltip.
+void MainWindow::sayChanges(const QString& text)
+{
+    statusBar()->clearMessage();
+    m_changes->setText(text);
+    m_changes->setToolTip(text);
 }
 
 void MainWindow::chooseTheme(const QString& name)

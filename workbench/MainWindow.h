@@ -10,16 +10,20 @@
 
 class QAction;
 class QDockWidget;
+class QLabel;
 class QMenu;
 
 namespace workbench {
 
+class ComparePanel;
 class CreditPanel;
 class EventPanel;
+class Finder;
 class HostForm;
 class LanguageTexts;
 class LookForm;
 class OrderControls;
+class OrderHeader;
 class PanelHost;
 class QuoteLadder;
 class QuotePanel;
@@ -30,6 +34,7 @@ class StateKeeper;
 class TableBench;
 class TaskPanel;
 class TicketPanel;
+class WhyPanel;
 
 /// Theme, UI scale and language of the last run; empty, or 1.0, when there was none.
 struct SavedLook
@@ -90,6 +95,9 @@ private:
 
     void createCentre();
     void createDocks();
+    void arrangeParts();
+    QWidget* createWhy();
+    QWidget* createCompare();
     QWidget* createSetup();
     static const std::vector<DockRow>& dockRows();
     void addDock(const DockRow& row);
@@ -97,12 +105,27 @@ private:
     static void goTo(QDockWidget* dock);
     void listenTo(PanelHost* host);
     void showTable();
+    void sayChanges(const QString& text);
     void connectHost();
     void takeServices(const Json& services);
     void keepService(const char* name, Json value);
     Json collectState();
     void connectLadder();
     void readTable();
+    void connectHeader();
+    void takeAccount(int brokerType);
+    void followConfiguration();
+
+    /// @name What a person does with one key
+    /// @{
+    void goToCell(int cell);
+    void explainCell();
+    void compareWithPanel();
+    void find();
+    void chooseNextTheme();
+    void chooseNextLanguage();
+    void showPanelAlone(bool alone);
+    /// @}
     void onEvent(int event, int a, int b, const QString& text, void* payload);
 
     QMenu* addMenu(const char* title);
@@ -117,6 +140,7 @@ private:
     void createEventMenu();
     void createRecordingMenu();
     void createHelpMenu();
+    void createPanelActions(QMenu* menu);
     void tickChoices();
     void showProblem(const QString& problem);
 
@@ -127,6 +151,8 @@ private:
     LookForm* m_look;
     HostForm* m_host;
     OrderControls* m_controls;
+    OrderHeader* m_header;
+    QLabel* m_changes; ///< what the last change of the set-up has made of the panel
     EventPanel* m_events;
     TaskPanel* m_tasks;
     CreditPanel* m_credit;
@@ -139,6 +165,11 @@ private:
     bool m_isKept = false;            ///< loadState() was called
     QStringList m_problems;
     QList<QDockWidget*> m_docks;
+    WhyPanel* m_why = nullptr;
+    ComparePanel* m_compare = nullptr;
+    Finder* m_finder = nullptr;      ///< made when first asked for
+    QAction* m_alone = nullptr;      ///< ticked while the parts are put away
+    QByteArray m_partsBefore;        ///< where they stood then
     QList<QAction*> m_choiceActions; ///< themes and languages, ticked as they are in force
 };
 

@@ -27,19 +27,11 @@ namespace {
 constexpr int kSetupWidth = 280;
 constexpr int kControlsWidth = 380;
 constexpr int kEventsHeight = 240;
-constexpr int kQuoteHeight = 290;
+constexpr int kQuoteHeight = 300;
 
 QWidget* scrolled(QWidget* form)
 {
     return new FormScroll(form);
-}
-
-/// What a host calls is not always followed by an event.
-QWidget* whyPanel(TableBench& bench, OrderControls& controls)
-{
-    auto* const panel = new WhyPanel(bench);
-    QObject::connect(&controls, &OrderControls::tableDriven, panel, &WhyPanel::refresh);
-    return panel;
 }
 
 /// The first part of @p content that takes the keyboard by Tab, in the order of Tab.
@@ -73,17 +65,47 @@ const std::vector<MainWindow::DockRow>& MainWindow::dockRows()
         {"ticketDock",   QT_TRANSLATE_NOOP("workbench", "Ticket"),     "Ctrl+6", kRight,  "controlsDock", [](MainWindow& w) { return static_cast<QWidget*>(w.m_ticket); }},
         {"eventsDock",   QT_TRANSLATE_NOOP("workbench", "Events"),     "Ctrl+7", kBottom, "",             [](MainWindow& w) { return static_cast<QWidget*>(w.m_events); }},
         {"recorderDock", QT_TRANSLATE_NOOP("workbench", "Recorder"),   "Ctrl+8", kBottom, "eventsDock",   [](MainWindow& w) { return static_cast<QWidget*>(w.m_recorderPanel); }},
-        {"whyDock",      QT_TRANSLATE_NOOP("workbench", "Why?"),       "Ctrl+9", kBottom, "eventsDock",   [](MainWindow& w) { return whyPanel(*w.m_bench, *w.m_controls); }},
-        {"compareDock",  QT_TRANSLATE_NOOP("workbench", "Compare"),    "Ctrl+D", kBottom, "eventsDock",   [](MainWindow& w) { return static_cast<QWidget*>(new ComparePanel(*w.m_bench)); }},
+        {"whyDock",      QT_TRANSLATE_NOOP("workbench", "Why?"),       "Ctrl+9", kBottom, "eventsDock",   [](MainWindow& w) { return w.createWhy(); }},
+        {"compareDock",  QT_TRANSLATE_NOOP("workbench", "Compare"),    "Ctrl+D", kBottom, "eventsDock",   [](MainWindow& w) { return w.createCompare(); }},
     };
     // clang-format on
     return kRows;
+}
+
+/// What a host calls is not always followed by an event.
+QWidget* MainWindow::createWhy()
+{
+    m_why = new WhyPanel(*m_bench);
+    connect(m_controls, &OrderControls::tableDriven, m_why, &WhyPanel::refresh);
+    return m_why;
+}
+
+QWidget* MainWindow::createCompare()
+{
+    return m_compare = new ComparePanel(*m_bench);
 }
 
 void MainWindow::createDocks()
 {
     for (const DockRow& row : dockRows())
         addDock(row);
+    arrangeParts();
+}
+
+/// Each part in its place, as in the first run.
+void MainWindow::arrangeParts()
+{
+    for (const DockRow& row : dockRows()) {
+        QDockWidget* const part = dock(row.name);
+        part->setFloating(false);
+        addDockWidget(row.area, part);
+        if (QDockWidget* neighbour = dock(row.tabbedWith))
+            tabifyDockWidget(neighbour, part);
+        part->show();
+    }
+    m_partsBefore.clear();
+    if (m_alone)
+        m_alone->setChecked(false);
     for (const char* name : {"eventsDock", "controlsDock"})
         dock(name)->raise();
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
@@ -99,9 +121,6 @@ void MainWindow::addDock(const DockRow& row)
     auto* dock = new QDockWidget(this);
     dock->setObjectName(QLatin1String(row.name));
     dock->setWidget(row.content(*this));
-    addDockWidget(row.area, dock);
-    if (QDockWidget* neighbour = this->dock(row.tabbedWith))
-        tabifyDockWidget(neighbour, dock);
     m_docks << dock;
     m_texts->keep([dock, title = row.title] { dock->setWindowTitle(translated(title)); });
 }
@@ -116,7 +135,9 @@ void MainWindow::goTo(QDockWidget* dock)
     dock->show();
     dock->raise();
     dock->activateWindow();
-    firstField(dock->widget())->setFocus(Qt::ShortcutFocusReason);
+    QWidget* const content = dock->widget();
+    QWidget* const first = content->focusProxy() ? content->focusProxy() : firstField(content);
+    first->setFocus(Qt::ShortcutFocusReason);
 }
 
 } // namespace workbench

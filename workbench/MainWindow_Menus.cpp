@@ -4,8 +4,10 @@
 #include "workbench/Language.h"
 #include "workbench/LanguageTexts.h"
 #include "workbench/LookForm.h"
+#include "workbench/OrderHeader.h"
 #include "workbench/RecorderPanel.h"
 #include "workbench/TableBench.h"
+#include "workbench/TicketPanel.h"
 #include "workbench/Vocabulary.h"
 
 #include "reference/toolkit/Resources.h"
@@ -55,10 +57,28 @@ void MainWindow::createTableMenu()
     QAction* rebuild = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Rebuild"), Qt::Key_F5);
     QAction* focus = addAction(menu, QT_TRANSLATE_NOOP("workbench", "Go to the order &panel"), Qt::Key_F6);
     menu->addSeparator();
+    createPanelActions(menu);
+    menu->addSeparator();
     QAction* quit = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&Quit"), QKeySequence(int(Qt::CTRL) + Qt::Key_Q));
     connect(rebuild, &QAction::triggered, this, &MainWindow::rebuildTable);
     connect(focus, &QAction::triggered, m_bench, &TableBench::focusTable);
     connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void MainWindow::createPanelActions(QMenu* menu)
+{
+    QAction* instrument = addAction(menu, QT_TRANSLATE_NOOP("workbench", "Choose an instrument"),
+                                    QKeySequence(int(Qt::CTRL) + Qt::Key_I));
+    QAction* why = addAction(menu, QT_TRANSLATE_NOOP("workbench", "Why is this cell shown?"),
+                             QKeySequence(int(Qt::SHIFT) + Qt::Key_F1));
+    QAction* compare = addAction(menu, QT_TRANSLATE_NOOP("workbench", "Compare with another broker"),
+                                 QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_D));
+    connect(instrument, &QAction::triggered, m_header, &OrderHeader::focusCode);
+    connect(why, &QAction::triggered, this, &MainWindow::explainCell);
+    connect(compare, &QAction::triggered, this, &MainWindow::compareWithPanel);
+    menu->addSeparator();
+    for (QAction* action : m_ticket->actions())
+        menu->addAction(action);
 }
 
 void MainWindow::createViewMenu()
@@ -83,6 +103,12 @@ void MainWindow::createPartsMenu(QMenu* view)
     m_texts->keep([menu] { menu->setTitle(translated(QT_TRANSLATE_NOOP("workbench", "Show &parts"))); });
     for (const QDockWidget* part : qAsConst(m_docks))
         menu->addAction(part->toggleViewAction());
+    QAction* reset = addAction(view, QT_TRANSLATE_NOOP("workbench", "Parts back to their places"),
+                               QKeySequence(Qt::SHIFT + Qt::Key_F11));
+    m_alone = addAction(view, QT_TRANSLATE_NOOP("workbench", "Order panel alone"), Qt::Key_F11);
+    m_alone->setCheckable(true);
+    connect(reset, &QAction::triggered, this, &MainWindow::arrangeParts);
+    connect(m_alone, &QAction::toggled, this, &MainWindow::showPanelAlone);
 }
 
 void MainWindow::createThemeMenu(QMenu* view)
@@ -100,6 +126,8 @@ void MainWindow::createThemeMenu(QMenu* view)
         connect(action, &QAction::triggered, this, [this, theme] { chooseTheme(theme); });
         m_choiceActions << action;
     }
+    QAction* next = addAction(view, QT_TRANSLATE_NOOP("workbench", "Next theme"), Qt::Key_F8);
+    connect(next, &QAction::triggered, this, &MainWindow::chooseNextTheme);
 }
 
 void MainWindow::createScaleActions(QMenu* view)
@@ -127,6 +155,8 @@ void MainWindow::createLanguageMenu(QMenu* view)
         connect(action, &QAction::triggered, this, [this, name] { chooseLanguage(name); });
         m_choiceActions << action;
     }
+    QAction* next = addAction(view, QT_TRANSLATE_NOOP("workbench", "Next language"), Qt::Key_F7);
+    connect(next, &QAction::triggered, this, &MainWindow::chooseNextLanguage);
 }
 
 void MainWindow::createEventMenu()
@@ -151,6 +181,9 @@ void MainWindow::createRecordingMenu()
 void MainWindow::createHelpMenu()
 {
     QMenu* menu = addMenu(QT_TRANSLATE_NOOP("workbench", "&Help"));
+    QAction* finder = addAction(menu, QT_TRANSLATE_NOOP("workbench", "Find a command or a cell…"),
+                                QKeySequence(int(Qt::CTRL) + Qt::Key_G));
+    connect(finder, &QAction::triggered, this, &MainWindow::find);
     QAction* about = addAction(menu, QT_TRANSLATE_NOOP("workbench", "&About"), Qt::Key_F1);
     connect(about, &QAction::triggered, this, [this] {
         const QString version = QCoreApplication::applicationVersion();

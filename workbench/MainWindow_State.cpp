@@ -4,6 +4,7 @@
 #include "workbench/HostForm.h"
 #include "workbench/Language.h"
 #include "workbench/OrderControls.h"
+#include "workbench/OrderHeader.h"
 #include "workbench/QuoteFeed.h"
 #include "workbench/QuotePanel.h"
 #include "workbench/SetupForm.h"
@@ -17,10 +18,14 @@
 #include <OrderParamTable_mini/credit/CCreditParamTable.h>
 #include <TC/CUserConfig.h>
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QFile>
 #include <QSet>
+#include <QSignalBlocker>
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -106,8 +111,20 @@ void MainWindow::connectHost()
     connect(m_quotes, &QuotePanel::feedChosen, this, [this] {
         keepService("feed", {{"running", m_quotes->feed()->isRunning()}, {"rate", m_quotes->feed()->rate()}});
     });
+    reference::setConfigurationListener([this] { followConfiguration(); });
     const TC::CUserConfig* configuration = TC::getUserConfig();
     m_host->setClientMode(configuration ? configuration->clientMode() : 0);
+}
+
+/// Somebody has changed the file while the window is open: that is newer than what was chosen in the window.
+void MainWindow::followConfiguration()
+{
+    const TC::CUserConfig* configuration = TC::getUserConfig();
+    m_host->setClientMode(configuration ? configuration->clientMode() : 0);
+    m_form->setModules(reference::modules().values());
+    m_services.erase("modules");
+    m_services.erase("clientMode");
+    showTable();
 }
 
 void MainWindow::keepService(const char* name, Json value)
@@ -158,6 +175,11 @@ void MainWindow::loadState(Services services)
     const QString credit = textIn(state, "credit");
     if (!credit.isEmpty() && credit != m_credit->table()->param())
         m_credit->loadParam(credit);
+    m_header->showAccount(textIn(state, "account"));
+    const bool isAlone =
+        std::all_of(m_docks.begin(), m_docks.end(), [](QDockWidget* part) { return part->isHidden(); });
+    const QSignalBlocker quiet(m_alone);
+    m_alone->setChecked(isAlone);
     readTable();
     installEventFilter(m_keeper);
     for (QDockWidget* part : qAsConst(m_docks))
@@ -175,6 +197,7 @@ Json MainWindow::collectState()
     state["window"] = {{"geometry", bytesJson(saveGeometry())}, {"layout", bytesJson(saveState(kLayoutVersion))}};
     state["setup"] = setupJson(m_form->setup());
     state["drive"] = driveJson(m_controls->drive());
+    state["account"] = replay::written(m_header->account());
     state["services"] = m_services;
     state["tables"] = m_memory.json();
     state["credit"] = m_credit->table()->param().toStdString();

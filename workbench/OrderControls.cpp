@@ -105,14 +105,26 @@ void OrderControls::addCode()
     title->setBuddy(m_code);
     m_form->addRow(title, m_code);
     m_texts->keep([title] { title->setText(translated(QT_TRANSLATE_NOOP("workbench", "Instrument &code"))); });
-    connect(m_code, &QLineEdit::editingFinished, this, [this] {
-        if (m_code->text() == m_drive.code)
-            return;
-        m_drive.code = m_code->text();
-        if (m_table)
-            hostCall(*m_table, calls::kSetStockCode, m_drive.code);
-        Q_EMIT tableDriven();
-    });
+    connect(m_code, &QLineEdit::editingFinished, this, [this] { chooseCode(m_code->text()); });
+}
+
+void OrderControls::chooseCode(const QString& code)
+{
+    if (code == m_drive.code)
+        return;
+    m_drive.code = code;
+    m_code->setText(code);
+    if (m_table)
+        hostCall(*m_table, calls::kSetStockCode, m_drive.code);
+    Q_EMIT tableDriven();
+}
+
+void OrderControls::chooseOperation(int operationType)
+{
+    m_drive.operationType = operationType;
+    if (m_table)
+        hostCall(*m_table, calls::kSetOperationType, ttservice::EOperationType(operationType));
+    Q_EMIT tableDriven();
 }
 
 void OrderControls::addPrice()
@@ -157,10 +169,7 @@ void OrderControls::connectControls()
         m_drive.orderType = type;
         apply(calls::kSetOrderType, ttservice::EOrderType(type));
     });
-    connect(m_operation, &NumberCombo::valueChanged, this, [this, apply](int operation) {
-        m_drive.operationType = operation;
-        apply(calls::kSetOperationType, ttservice::EOperationType(operation));
-    });
+    connect(m_operation, &NumberCombo::valueChanged, this, &OrderControls::chooseOperation);
     connect(m_flags, &FlagsEditor::flagsChanged, this, [this, apply](int flags) {
         m_drive.flags = flags;
         apply(calls::kSetFlag, TC::OperationCellFlags(flags));

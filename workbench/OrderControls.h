@@ -38,6 +38,10 @@ public:
     /// Shows what was chosen in an earlier run, for the next table, without announcing it.
     void setDrive(const TableDrive& drive);
 
+    /// As if a person had entered it here.
+    void chooseCode(const QString& code);
+    void chooseOperation(int operationType);
+
     /// Reads the table's state again.
     void refresh();
 

@@ -9,8 +9,9 @@ namespace workbench {
 namespace {
 
 constexpr double kTick = 0.01;
-constexpr double kLowest = 9.0;
-constexpr double kHighest = 11.5;
+constexpr double kFirstPrice = 10.23;
+/// How far the walk goes from where it began.
+constexpr double kReach = 0.12;
 constexpr int kLastRow = 5;
 constexpr int kLargestTrade = 40;
 constexpr int kLot = 100;
@@ -22,6 +23,8 @@ QuoteFeed::QuoteFeed(QuoteModel& quotes, QObject* parent)
     , m_quotes(quotes)
 {
     setRate(m_rate);
+    m_lowest = kFirstPrice * (1 - kReach);
+    m_highest = kFirstPrice * (1 + kReach);
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &QuoteFeed::step);
 }
@@ -51,13 +54,20 @@ int QuoteFeed::rate() const
     return m_rate;
 }
 
+void QuoteFeed::startFrom(double price)
+{
+    m_lowest = price * (1 - kReach);
+    m_highest = price * (1 + kReach);
+    m_quotes.setQuotes(quotesAround(price));
+}
+
 void QuoteFeed::step()
 {
     const auto draw = [this](int sides) { return static_cast<int>(m_walk() % static_cast<unsigned>(sides)); };
     QuoteModel::Quotes quotes = m_quotes.quotes();
     const double move = (draw(3) - 1) * kTick;
     const double last = quotes[kLastRow].price + move;
-    if (last > kLowest && last < kHighest)
+    if (last > m_lowest && last < m_highest)
         for (QuoteModel::Quote& quote : quotes)
             quote.price += move;
     const auto traded = static_cast<std::size_t>(draw(QuoteModel::kLevels));

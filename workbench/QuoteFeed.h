@@ -26,6 +26,9 @@ public:
     void setRate(int perSecond);
     int rate() const;
 
+    /// Another quote, around that price; the walk stays near it.
+    void startFrom(double price);
+
     /// One update, as the timer makes it.
     void step();
 
@@ -33,6 +36,8 @@ private:
     QuoteModel& m_quotes;
     QTimer m_timer;
     int m_rate = 5;
+    double m_lowest;
+    double m_highest;
     std::minstd_rand m_walk;
 };
 

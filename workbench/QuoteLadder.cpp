@@ -13,6 +13,7 @@ namespace workbench {
 namespace {
 
 constexpr double kFirstPrice = 10.23;
+constexpr int kRowMargin = 1;
 
 } // namespace
 
@@ -44,6 +45,8 @@ QuoteModel* QuoteLadder::quotes() const
 void QuoteLadder::fitColumnsToFont()
 {
     const int margin = fontMetrics().height();
+    // All of its rows are seen at once: they stand closer than in lists that scroll.
+    verticalHeader()->setDefaultSectionSize(margin + kRowMargin);
     setColumnWidth(QuoteModel::Level, fontMetrics().horizontalAdvance(QStringLiteral("卖⑤价")) + margin);
     setColumnWidth(QuoteModel::Price, fontMetrics().horizontalAdvance(QStringLiteral("1000000.00")) + margin);
     // What a window is higher than its parts need goes to those with more to show.

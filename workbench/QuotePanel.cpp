@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QSignalBlocker>
 #include <QSpinBox>
 
@@ -15,6 +16,7 @@ namespace workbench {
 
 QuotePanel::QuotePanel(QWidget* parent)
     : QWidget(parent)
+    , m_name(new QLabel)
     , m_ladder(new QuoteLadder)
     , m_feed(new QuoteFeed(*m_ladder->quotes(), this))
     , m_running(new QCheckBox)
@@ -29,6 +31,11 @@ QuotePanel::QuotePanel(QWidget* parent)
     bar->setContentsMargins(8, 4, 8, 4);
     bar->addWidget(m_running, 1);
     bar->addWidget(m_rate);
+    m_name->setMargin(4);
+    m_name->setMinimumWidth(1);
+    m_name->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_name->setObjectName(QStringLiteral("quoteInstrument"));
+    layout->addWidget(m_name);
     layout->addWidget(m_ladder, 1);
     layout->addLayout(bar);
     m_rate->setRange(QuoteFeed::kSlowest, QuoteFeed::kFastest);
@@ -43,10 +50,32 @@ QuotePanel::QuotePanel(QWidget* parent)
         Q_EMIT feedChosen();
     });
     m_texts->keep([this] {
+        nameInstrument();
         m_running->setText(translated(QT_TRANSLATE_NOOP("workbench", "&Quote moves")));
         m_rate->setSuffix(translated(QT_TRANSLATE_NOOP("workbench", " a second")));
         m_rate->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Updates of the quote")));
     });
+}
+
+void QuotePanel::setInstrument(const Instrument& instrument)
+{
+    m_instrument = instrument;
+    if (instrument.price > 0.0)
+        m_feed->startFrom(instrument.price);
+    nameInstrument();
+}
+
+const Instrument& QuotePanel::instrument() const
+{
+    return m_instrument;
+}
+
+void QuotePanel::nameInstrument()
+{
+    const QString none = translated(QT_TRANSLATE_NOOP("workbench", "no instrument chosen"));
+    const QString name = (m_instrument.code + QStringLiteral("  ") + m_instrument.name).trimmed();
+    m_name->setText(name.isEmpty() ? none : name);
+    m_name->setToolTip(m_name->text());
 }
 
 QuoteLadder* QuotePanel::ladder() const

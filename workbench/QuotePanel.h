@@ -1,8 +1,11 @@
 #pragma once
 
+#include "workbench/HostDirectory.h"
+
 #include <QWidget>
 
 class QCheckBox;
+class QLabel;
 class QSpinBox;
 
 namespace workbench {
@@ -21,6 +24,11 @@ public:
     QuoteLadder* ladder() const;
     QuoteFeed* feed() const;
 
+    /// Names the instrument; the quote starts from its price where that is known.
+    void setInstrument(const Instrument& instrument);
+
+    const Instrument& instrument() const;
+
     /// Shows and takes a state without announcing it.
     void setFeed(bool running, int rate);
 
@@ -29,6 +37,10 @@ Q_SIGNALS:
     void feedChosen();
 
 private:
+    void nameInstrument();
+
+    Instrument m_instrument;
+    QLabel* m_name;
     QuoteLadder* m_ladder;
     QuoteFeed* m_feed;
     QCheckBox* m_running;

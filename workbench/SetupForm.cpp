@@ -34,6 +34,40 @@ constexpr std::array kClasses = {
 };
 // clang-format on
 
+constexpr int kRowSpacing = 4;
+
+/// As high as all of its rows: the form around it scrolls.
+class ModuleList : public QListWidget
+{
+public:
+    ModuleList()
+    {
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        setTextElideMode(Qt::ElideMiddle);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+
+    QSize sizeHint() const override
+    {
+        const int rows = count() * qMax(sizeHintForRow(0), fontMetrics().height());
+        return {QListWidget::sizeHint().width(), rows + 2 * frameWidth()};
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        return {QListWidget::minimumSizeHint().width(), sizeHint().height()};
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QListWidget::changeEvent(event);
+        if (event->type() == QEvent::FontChange)
+            updateGeometry();
+    }
+};
+
 } // namespace
 
 SetupForm::SetupForm(QWidget* parent)
@@ -44,14 +78,14 @@ SetupForm::SetupForm(QWidget* parent)
     , m_identity(addNumber(QT_TRANSLATE_NOOP("workbench", "&Identity"), new NumberCombo(identities(), 5)))
     , m_broker(addNumber(QT_TRANSLATE_NOOP("workbench", "&Broker type"), new NumberCombo(brokerTypes(), 2)))
     , m_trader(addNumber(QT_TRANSLATE_NOOP("workbench", "T&rader type"), new NumberCombo(traderTypes(), 1)))
+    , m_modules(addModules())
     , m_modeButtons(addCheck(QT_TRANSLATE_NOOP("workbench", "Order-&mode buttons")))
     , m_fontScale(addCheck(QT_TRANSLATE_NOOP("workbench", "Table follo&ws the UI scale")))
     , m_autoBook(addCheck(QT_TRANSLATE_NOOP("workbench", "&Automatic order book allowed")))
-    , m_modules(new QListWidget)
 {
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     m_form->setRowWrapPolicy(QFormLayout::DontWrapRows);
-    addModules();
+    m_form->setVerticalSpacing(kRowSpacing);
     setSetup({});
     followClass();
 }
@@ -98,26 +132,24 @@ QCheckBox* SetupForm::addCheck(const char* label)
     return check;
 }
 
-void SetupForm::addModules()
+QListWidget* SetupForm::addModules()
 {
-    m_modules->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    m_modules->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    m_modules->setTextElideMode(Qt::ElideMiddle);
-    m_modules->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* const list = new ModuleList;
     for (const char* path : featureModules()) {
         const QString module = QLatin1String(path);
-        auto* item = new QListWidgetItem(module.section(QLatin1Char('/'), 1), m_modules);
+        auto* item = new QListWidgetItem(module.section(QLatin1Char('/'), 1), list);
         item->setData(Qt::UserRole, module);
         item->setToolTip(module);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
     auto* label = new QLabel;
-    label->setBuddy(m_modules);
+    label->setBuddy(list);
     m_texts->keep([label] { label->setText(translated(QT_TRANSLATE_NOOP("workbench", "Feature modules (&y)"))); });
     m_form->addRow(label);
-    m_form->addRow(m_modules);
-    connect(m_modules, &QListWidget::itemChanged, this, [this] { Q_EMIT modulesChanged(modules()); });
+    m_form->addRow(list);
+    connect(list, &QListWidget::itemChanged, this, [this] { Q_EMIT modulesChanged(modules()); });
+    return list;
 }
 
 void SetupForm::followClass()

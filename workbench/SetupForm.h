@@ -39,7 +39,7 @@ private:
     QComboBox* addClassChoice();
     NumberCombo* addNumber(const char* label, NumberCombo* combo);
     QCheckBox* addCheck(const char* label);
-    void addModules();
+    QListWidget* addModules();
     void followClass();
 
     LanguageTexts* m_texts;
@@ -48,10 +48,10 @@ private:
     NumberCombo* m_identity;
     NumberCombo* m_broker;
     NumberCombo* m_trader;
+    QListWidget* m_modules;
     QCheckBox* m_modeButtons;
     QCheckBox* m_fontScale;
     QCheckBox* m_autoBook;
-    QListWidget* m_modules;
 };
 
 } // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <QPointer>
 
+class QMenu;
+
 namespace TC {
 class COrderParamBaseTable;
 }
@@ -32,10 +34,17 @@ public:
     /// Hands a new UI scale to the table: only its owner does that.
     void scaleTable();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     void rebuilt(TC::COrderParamBaseTable* table);
 
+    /// A person asked, in the menu of the current cell, why it is shown.
+    void whyAsked();
+
 private:
+    void addWhy(QMenu& menu);
+
     QPointer<TC::COrderParamBaseTable> m_table;
     TableSetup m_setup;
 };

@@ -40,6 +40,7 @@ void TaskPanel::createView(QVBoxLayout* layout)
     connect(m_view, &HostTable::doubleClicked, this, open);
     connect(m_view, &HostTable::enterPressed, this, open);
     layout->addWidget(m_view);
+    setFocusProxy(m_view);
 }
 
 void TaskPanel::createBar(QVBoxLayout* layout)
@@ -58,6 +59,8 @@ void TaskPanel::createBar(QVBoxLayout* layout)
         m_trader->retranslate();
         m_autoBook->setText(translated(QT_TRANSLATE_NOOP("workbench", "Automatic order book")));
         basket->setText(translated(QT_TRANSLATE_NOOP("workbench", "Open basket")));
+        basket->setToolTip(translated(QT_TRANSLATE_NOOP(
+            "workbench", "Of the selected tasks, or of all; the library's basket dialog shows no cells")));
     });
     connect(basket, &QPushButton::clicked, this, &TaskPanel::openBasket);
 }
@@ -65,6 +68,8 @@ void TaskPanel::createBar(QVBoxLayout* layout)
 void TaskPanel::setTasks(std::vector<ttservice::CCodeOrderParam> tasks)
 {
     m_model->setTasks(std::move(tasks));
+    // Enter opens it; a basket is of the selected tasks, and none is.
+    m_view->selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
     m_view->fit();
 }
 

@@ -23,34 +23,54 @@ bool TicketModel::hasNamesOf(const std::vector<Entry>& entries) const
                       [](const Entry& left, const Entry& right) { return left.name == right.name; });
 }
 
-void TicketModel::markChanges(const std::vector<Entry>& entries)
+bool TicketModel::markChanges(const std::vector<Entry>& entries)
 {
     std::vector<bool> changed(entries.size());
     for (std::size_t i = 0; i < entries.size(); ++i)
         changed[i] = entries[i].value != m_entries[i].value;
-    if (std::find(changed.begin(), changed.end(), true) != changed.end())
+    const bool isChanged = std::find(changed.begin(), changed.end(), true) != changed.end();
+    if (isChanged)
         m_marked = changed;
+    return isChanged;
 }
 
-void TicketModel::setEntries(std::vector<Entry> entries)
+bool TicketModel::setEntries(std::vector<Entry> entries)
 {
     if (!hasNamesOf(entries)) {
         beginResetModel();
         m_entries = std::move(entries);
         m_marked.assign(m_entries.size(), false);
         endResetModel();
-        return;
+        return false;
     }
     if (entries.empty())
-        return;
-    markChanges(entries);
+        return false;
+    const bool hasMarked = markChanges(entries);
     m_entries = std::move(entries);
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    return hasMarked;
 }
 
 bool TicketModel::isMarked(int row) const
 {
     return row >= 0 && row < rowCount() && m_marked[static_cast<std::size_t>(row)];
+}
+
+int TicketModel::firstMarked() const
+{
+    const auto found = std::find(m_marked.begin(), m_marked.end(), true);
+    return found == m_marked.end() ? -1 : int(found - m_marked.begin());
+}
+
+QString TicketModel::text(Part part) const
+{
+    QStringList lines;
+    for (int row = 0; row < rowCount(); ++row) {
+        const Entry& entry = m_entries[static_cast<std::size_t>(row)];
+        if (part == Part::Record ? entry.isRecord : isMarked(row))
+            lines << entry.name.trimmed() + QLatin1Char('\t') + entry.value;
+    }
+    return lines.join(QLatin1Char('\n'));
 }
 
 void TicketModel::retranslate()

@@ -18,14 +18,25 @@ public:
     {
         QString name;
         QString value;
+        bool isRecord = false; ///< a field of the settings record
     };
+
+    /// Which of the entries.
+    enum class Part { Record, Changed };
 
     explicit TicketModel(QObject* parent = nullptr);
 
     /// Takes a new reading. Marks stay until a reading changes something; a reading with other names marks nothing.
-    void setEntries(std::vector<Entry> entries);
+    /// @returns whether it marked something
+    bool setEntries(std::vector<Entry> entries);
 
     bool isMarked(int row) const;
+
+    /// The first row that is marked; -1 for none.
+    int firstMarked() const;
+
+    /// Those entries, a line each, name and value between tabs.
+    QString text(Part part) const;
 
     void retranslate();
 
@@ -36,7 +47,7 @@ public:
 
 private:
     bool hasNamesOf(const std::vector<Entry>& entries) const;
-    void markChanges(const std::vector<Entry>& entries);
+    bool markChanges(const std::vector<Entry>& entries);
 
     std::vector<Entry> m_entries;
     std::vector<bool> m_marked;

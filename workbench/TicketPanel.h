@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class QBoxLayout;
 class QLineEdit;
 
 namespace TC {
@@ -16,6 +17,8 @@ class LanguageTexts;
 class TicketModel;
 
 /// The live ticket: the table's state, the settings record and its parameter string, what changed last marked.
+///
+/// Its actions (QWidget::actions(), in the order of the buttons) copy; they carry the shortcuts and belong into a menu.
 class TicketPanel : public QWidget
 {
     Q_OBJECT
@@ -32,6 +35,9 @@ public:
     TicketModel* model() const;
 
 private:
+    void createBar(QBoxLayout* layout);
+    void copy(int what) const;
+
     QPointer<TC::COrderParamBaseTable> m_table;
     TicketModel* m_model;
     HostTable* m_view;

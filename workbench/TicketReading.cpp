@@ -28,7 +28,7 @@ static_assert(kItems.size() == 41);
 void appendState(std::vector<TicketModel::Entry>& entries, TC::COrderParamBaseTable& table)
 {
     const auto add = [&entries](const char* name, const QString& value) {
-        entries.push_back({translated(name), value});
+        entries.push_back({translated(name), value, false});
     };
     add(QT_TRANSLATE_NOOP("workbench", "order type"), valueWithName(orderTypes(), table.orderType()));
     add(QT_TRANSLATE_NOOP("workbench", "operation"), valueWithName(operationTypes(), table.getOperationType()));
@@ -45,7 +45,7 @@ void appendRecord(std::vector<TicketModel::Entry>& entries, TC::COrderParamBaseT
     for (std::size_t i = 0; i < kItems.size(); ++i) {
         const int number = static_cast<int>(i);
         entries.push_back(
-            {QStringLiteral("%1 %2").arg(number + 1, 2).arg(QLatin1String(kItems[i])), items.value(number)});
+            {QStringLiteral("%1 %2").arg(number + 1, 2).arg(QLatin1String(kItems[i])), items.value(number), true});
     }
 }
 
@@ -54,7 +54,8 @@ void appendCells(std::vector<TicketModel::Entry>& entries, WQ::CMultiParamsTable
     for (const LabelledValue& cell : cells()) {
         if (grid.getItem(cell.value))
             entries.push_back({QStringLiteral("0x%1 %2").arg(cell.value, 0, 16).arg(cell.label.toString()),
-                               QStringLiteral("%1 %2").arg(grid.itemText(cell.value), grid.itemUnit(cell.value))});
+                               QStringLiteral("%1 %2").arg(grid.itemText(cell.value), grid.itemUnit(cell.value)),
+                               false});
     }
 }
 

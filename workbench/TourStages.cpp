@@ -3,6 +3,7 @@
 #include "workbench/CreditPanel.h"
 #include "workbench/HostCalls.h"
 #include "workbench/MainWindow.h"
+#include "workbench/OrderControls.h"
 #include "workbench/PanelStates.h"
 #include "workbench/Recorder.h"
 #include "workbench/Snapshot.h"
@@ -14,6 +15,7 @@
 #include "reference/toolkit/ThemeKeys.h"
 
 #include <WQ/CPushButton.h>
+#include <WQ/Formatting.h>
 
 #include <boost/make_shared.hpp>
 
@@ -148,6 +150,8 @@ Stage stageWindow(const WindowStop& stop, const HostData& data)
         return stage;
     if (QLatin1String(stop.dock) == QLatin1String("recorderDock"))
         workbench.recorder()->start();
+    if (!data.tasks.empty())
+        workbench.findChild<OrderControls*>()->chooseCode(WQ::sToQs(data.tasks.front().code));
     TC::COrderParamBaseTable* table = workbench.bench()->table();
     hostCall(*table, calls::kSetOrderType, ttservice::EOrderType(stop.orderType));
     hostCall(*table, calls::kSetExpandItemsHidden, false);

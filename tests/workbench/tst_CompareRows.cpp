@@ -103,7 +103,7 @@ void tst_CompareRows::aCellOfOneTableAloneHasNoTextsInTheOther()
 void tst_CompareRows::orderTypesShowOtherCells()
 {
     const std::vector<CompareRow> rows = compared(setupOf(5, 2, 1), setupOf(5, 2, 2));
-    QCOMPARE(fact(rows, 0, "order type"), QStringLiteral("* 1 | 2"));
+    QCOMPARE(fact(rows, 0, "order type"), QStringLiteral("* 1  algorithm | 2  random volume"));
     QCOMPARE(fact(rows, 0x200, "shown"), QStringLiteral("* ✓ | ✗"));
     QCOMPARE(fact(rows, 0x1000, "shown"), QStringLiteral("✓ | ✓"));
 }

@@ -1399,5 +1399,133 @@ A host for every table and dialog of the library.</source>
         <source>%1: %2. %3: %4</source>
         <translation>%1：%2。%3：%4</translation>
     </message>
+    <message>
+        <source>Code or name</source>
+        <translation>代码或名称</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>证券</translation>
+    </message>
+    <message>
+        <source>Instrument: a part of its code or name, Enter</source>
+        <translation>证券：输入代码或名称的一部分后回车</translation>
+    </message>
+    <message>
+        <source>Account; its broker type says what the panel is made of</source>
+        <translation>账号；账号类型决定面板的组成</translation>
+    </message>
+    <message>
+        <source>unknown instrument</source>
+        <translation>未知证券</translation>
+    </message>
+    <message>
+        <source>no instrument chosen</source>
+        <translation>未选择证券</translation>
+    </message>
+    <message>
+        <source>A command, a part, or a cell</source>
+        <translation>命令、部件或单元格</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>查找结果</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>number with a box</source>
+        <translation>带勾选的数值</translation>
+    </message>
+    <message>
+        <source>range</source>
+        <translation>区间</translation>
+    </message>
+    <message>
+        <source>period</source>
+        <translation>时段</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>文本行</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Copy the parameter string</source>
+        <translation>复制参数串</translation>
+    </message>
+    <message>
+        <source>Copy string</source>
+        <translation>复制参数串</translation>
+    </message>
+    <message>
+        <source>Copy the settings record</source>
+        <translation>复制设置记录</translation>
+    </message>
+    <message>
+        <source>Copy record</source>
+        <translation>复制设置记录</translation>
+    </message>
+    <message>
+        <source>Copy what changed last</source>
+        <translation>复制最近的变化</translation>
+    </message>
+    <message>
+        <source>Copy change</source>
+        <translation>复制变化</translation>
+    </message>
+    <message>
+        <source>Enter or double-click: to the cell</source>
+        <translation>回车或双击：转到该单元格</translation>
+    </message>
+    <message>
+        <source>Of the selected tasks, or of all; the library&apos;s basket dialog shows no cells</source>
+        <translation>选中的任务，或全部任务；库的篮子窗口不显示单元格</translation>
+    </message>
+    <message>
+        <source>Choose an instrument</source>
+        <translation>选择证券</translation>
+    </message>
+    <message>
+        <source>Why is this cell shown?</source>
+        <translation>这个单元格为什么显示？</translation>
+    </message>
+    <message>
+        <source>Compare with another broker</source>
+        <translation>与其他账号类型对比</translation>
+    </message>
+    <message>
+        <source>Parts back to their places</source>
+        <translation>部件恢复原位</translation>
+    </message>
+    <message>
+        <source>Order panel alone</source>
+        <translation>只看下单面板</translation>
+    </message>
+    <message>
+        <source>Next theme</source>
+        <translation>下一个主题</translation>
+    </message>
+    <message>
+        <source>Next language</source>
+        <translation>下一种语言</translation>
+    </message>
+    <message>
+        <source>Find a command or a cell…</source>
+        <translation>查找命令或单元格…</translation>
+    </message>
 </context>
 </TS>
