@@ -5,10 +5,8 @@ if(NOT DOXYGEN_PROGRAM)
 endif()
 
 set(orderparam_manual_folder "${CMAKE_BINARY_DIR}/docs")
-set(library "${PROJECT_SOURCE_DIR}/OrderParamTable_mini")
-file(GLOB manual_headers CONFIGURE_DEPENDS
-    "${library}/credit/CC*.h" "${library}/frame/CO*.h" "${library}/tables/C*.h" "${library}/semantics/OrderVocabulary.h")
-list(APPEND manual_headers "${library}/platform")
+set(manual_headers ${orderparam_public_headers} platform)
+list(TRANSFORM manual_headers PREPEND "${PROJECT_SOURCE_DIR}/OrderParamTable_mini/")
 list(JOIN manual_headers "\" \"" orderparam_manual_headers)
 set(orderparam_manual_headers "\"${orderparam_manual_headers}\"")
 file(MAKE_DIRECTORY "${orderparam_manual_folder}")
