@@ -126,12 +126,12 @@ void checkKeys(const Json& command)
         throw WrongCommand("an edit gives value, unit, checked, text, index, low with high, time or elapse");
 }
 
+/// A dialog's own buttons are told from those of the strip of the table in it by their IDs.
 QAbstractButton* buttonWithinReach(const Object& object, int id)
 {
-    if (object.widget->isWindow()) {
-        QAbstractButton* button = pushButton(*object.widget, id);
-        return isHiddenIn(object, button) ? nullptr : button;
-    }
+    WQ::CPushButton* own = object.widget->isWindow() ? pushButton(*object.widget, id) : nullptr;
+    if (own)
+        return isHiddenIn(object, own) ? nullptr : own;
     WQ::CDropDownButtonGroup* group = object.buttons();
     if (!group || isHiddenIn(object, group))
         return nullptr;

@@ -29,6 +29,16 @@ Json dump(const char* on = "t")
     return {{"do", "dump"}, {"on", on}};
 }
 
+Json taskDialog(int orderType)
+{
+    const Json account = {{"brokerType", 2}, {"accountId", "1"}, {"accountName", "甲"}};
+    const Json task = {{"orderType", orderType}, {"account", account}};
+    return {{"do", "new"},
+            {"class", "CBaseTaskParamWidget"},
+            {"name", "d"},
+            {"args", Json::array({task, "", false, 1, false, ""})}};
+}
+
 QByteArray text(const Json& json)
 {
     return QByteArray::fromStdString(json.dump());
@@ -78,6 +88,8 @@ private Q_SLOTS:
     void whatIsShownIsPaintedBetweenTwoCommands();
     void aScreenshotIsAPicture();
     void aDialogsButtonExpandsItsTable();
+    void aModeButtonInADialogIsWithinReach();
+    void aButtonOfAHostComesBeforeTheHelpButton();
     void aContractWithoutDataHasANullKey();
 };
 
@@ -369,17 +381,35 @@ void tst_Session::aScreenshotIsAPicture()
 void tst_Session::aDialogsButtonExpandsItsTable()
 {
     Session session;
-    const Json task = {{"orderType", 1}, {"account", {{"brokerType", 2}, {"accountId", "1"}, {"accountName", "甲"}}}};
-    QVERIFY(session
-                .run({{"do", "new"},
-                      {"class", "CBaseTaskParamWidget"},
-                      {"name", "d"},
-                      {"args", Json::array({task, "", false, 1, false, ""})}})["ok"]
-                .get<bool>());
+    QVERIFY(session.run(taskDialog(1))["ok"].get<bool>());
     QCOMPARE(session.run(dump("d"))["result"]["expanded"].get<bool>(), false);
     QVERIFY(session.run({{"do", "click"}, {"on", "d"}, {"button", 0}})["ok"].get<bool>());
     QCOMPARE(session.run(dump("d"))["result"]["expanded"].get<bool>(), true);
     QVERIFY(!session.run({{"do", "click"}, {"on", "d"}, {"button", 7}})["ok"].get<bool>());
+}
+
+void tst_Session::aModeButtonInADialogIsWithinReach()
+{
+    Session session;
+    QVERIFY(session.run(taskDialog(11))["ok"].get<bool>());
+    const auto tableOf = [&session] { return session.run(dump("d"))["result"]["table"]; };
+    QCOMPARE(tableOf()["strip"]["hidden"].get<bool>(), false);
+    const Json clicked = session.run({{"do", "click"}, {"on", "d"}, {"button", 600}});
+    QVERIFY(clicked["ok"].get<bool>());
+    QCOMPARE(clicked["events"][0][0].get<int>(), 1064);
+    QCOMPARE(tableOf()["orderType"].get<int>(), 0);
+    QCOMPARE(tableOf()["strip"]["hidden"].get<bool>(), true);
+    QVERIFY(!session.run({{"do", "click"}, {"on", "d"}, {"button", 600}})["ok"].get<bool>());
+}
+
+void tst_Session::aButtonOfAHostComesBeforeTheHelpButton()
+{
+    Session session;
+    session.run(newProbe());
+    session.run({{"do", "addButton"}, {"on", "t"}, {"id", 0}, {"text", "甲"}});
+    const Json clicked = session.run({{"do", "click"}, {"on", "t"}, {"button", 0}});
+    QVERIFY(clicked["ok"].get<bool>());
+    QCOMPARE(text(clicked["events"]), QByteArray(R"([[5,0,0,"甲",null]])"));
 }
 
 void tst_Session::aContractWithoutDataHasANullKey()
