@@ -1,5 +1,5 @@
-# orderparam_compress(SOURCE NAME): SOURCE of this folder, with the version where it stands for it, compressed, as NAME in
-# the build folder; the same bytes from the same text.
+# orderparam_compress(SOURCE NAME): SOURCE of this folder, with the version filled in, compressed, as NAME in the build
+# folder; the same bytes from the same text.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 
 function(orderparam_compress source name)

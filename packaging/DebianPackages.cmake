@@ -38,16 +38,16 @@ if(NOT latest_change MATCHES "^${source_name} \\(${debian_version}\\) ")
     message(FATAL_ERROR "packaging/debian/changelog does not begin with version ${debian_version}")
 endif()
 orderparam_compress(debian/changelog changelog.Debian.gz)
-file(READ debian/description described_library)
-string(STRIP "${described_library}" described_library)
 
-# orderparam_package(COMPONENT NAME SECTION SUMMARY TEXT): what is particular to one package. Its overrides of lintian
-# carry their reasons.
-function(orderparam_package component name section summary text)
+# orderparam_package(COMPONENT NAME SECTION SUMMARY): what is particular to one package. Its overrides of lintian carry
+# their reasons.
+function(orderparam_package component name section summary)
     string(TOUPPER ${component} key)
     set(CPACK_DEBIAN_${key}_PACKAGE_NAME ${name} PARENT_SCOPE)
     set(CPACK_DEBIAN_${key}_PACKAGE_SECTION ${section} PARENT_SCOPE)
-    set(CPACK_COMPONENT_${key}_DESCRIPTION "${summary}\n${described_library}\n\n${text}" PARENT_SCOPE)
+    file(READ debian/description/common described)
+    file(READ debian/description/${component} described_itself)
+    set(CPACK_COMPONENT_${key}_DESCRIPTION "${summary}\n${described}\n${described_itself}" PARENT_SCOPE)
     install(FILES debian/copyright "${CMAKE_CURRENT_BINARY_DIR}/changelog.Debian.gz"
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${name}" COMPONENT ${component})
     file(READ debian/lintian/common overrides)
@@ -60,20 +60,10 @@ function(orderparam_package component name section summary text)
         DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides" COMPONENT ${component})
 endfunction()
 
-orderparam_package(library ${library_package} libs
-    "order-parameter tables of a trading client, shared library"
-    "This package holds the shared library, and the widget toolkit and services\nthat it stands on where a client brings \
-none of its own.")
-orderparam_package(dev ${dev_package} libdevel
-    "order-parameter tables of a trading client, development files"
-    "This package holds the headers, the CMake package and the pkg-config files.")
-orderparam_package(tools ${tools_package} devel
-    "order-parameter tables of a trading client, workbench and replay"
-    "This package holds a host application in which every table and dialog can be\ntried, and a driver that runs \
-scripts against them without a screen.")
-orderparam_package(doc ${doc_package} doc
-    "order-parameter tables of a trading client, documentation"
-    "This package holds the documents and the examples.")
+orderparam_package(library ${library_package} libs "order-parameter tables of a trading client, shared library")
+orderparam_package(dev ${dev_package} libdevel "order-parameter tables of a trading client, development files")
+orderparam_package(tools ${tools_package} devel "order-parameter tables of a trading client, workbench and replay")
+orderparam_package(doc ${doc_package} doc "order-parameter tables of a trading client, documentation")
 
 # Libraries: whoever links one depends on this version or a later one of the same soname.
 file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/shlibs"

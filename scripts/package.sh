@@ -40,8 +40,8 @@ check_with_lintian() {
     lintian "${options[@]}" "$build"/packages/*.deb
 }
 
-# in_root DPKG-ARGUMENT...: dpkg on a bare root, by a user who is root in there alone. What the packages depend on is not
-# there.
+# in_root DPKG-ARGUMENT...: dpkg on a bare root, by a user who is root in there alone. What the packages depend on is
+# missing there.
 in_root() {
     fakeroot dpkg --root="$root" --log=/dev/null --force-not-root --force-script-chrootless --force-depends \
         --no-triggers "$@" > "$root.log" 2>&1 || { cat "$root.log"; return 1; }

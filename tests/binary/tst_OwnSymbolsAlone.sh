@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The library exports its classes and nothing else, the reference platform what stands in the platform's namespaces; both
-# carry a version. Usage: tst_OwnSymbolsAlone.sh LIBRARY REFERENCE
+# The library exports its classes and nothing else, the reference platform what stands in the platform's namespaces;
+# both carry a version. Usage: tst_OwnSymbolsAlone.sh LIBRARY REFERENCE
 set -euo pipefail
 
 library=$1
@@ -22,7 +22,7 @@ own() {
     symbols=$(exported "$2")
     [[ -n $symbols ]] || fail "$2 exports nothing"
     others=$(grep -vE "^_Z(T[VIS]N|(Thn[0-9]+_)?NK?)($1)" <<< "$symbols") || return 0
-    fail "$(basename "$2") exports $(wc -l <<< "$others") symbols of others: $(head -n 5 <<< "$others" | c++filt)"
+    fail "$(basename "$2") exports symbols of others: $(head -n 5 <<< "$others" | c++filt)"
 }
 
 own '2TC[0-9]+C(OrderParamBaseTable|GlobalOrderParamTable|CodeOrderParamTable|StopLossOrderParamTable|BaseTaskParamWidget|HpfBasketTaskParamWidget|CreditParamTable)' \

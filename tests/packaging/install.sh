@@ -4,7 +4,7 @@
 
 rm -rf "$scratch/installed" "$prefix"
 mkdir -p "$scratch"
-cmake --install "$build" --prefix "$scratch/installed" > "$scratch/install.log" || { cat "$scratch/install.log"; exit 1; }
+step install cmake --install "$build" --prefix "$scratch/installed"
 mv "$scratch/installed" "$prefix"
 
 # The headers of the exported classes and of the platform, and what a host may say to the reference platform.
@@ -31,9 +31,12 @@ for program in workbench replay; do
     output=$("$prefix/bin/orderparam-$program" --version 2>&1) || fail "orderparam-$program: $output"
     [[ $output == *"orderparam-$program $version"* ]] || fail "orderparam-$program calls itself $output"
 done
-! command -v man >/dev/null || ! man --warnings -l "$prefix"/share/man/man1/*.gz 2>&1 >/dev/null | grep . || fail "man warns"
+if command -v man >/dev/null && man --warnings -l "$prefix"/share/man/man1/*.gz 2>&1 >/dev/null | grep .; then
+    fail "man warns"
+fi
 
-output=$(cd "$scratch" && cpack --config "$build/CPackConfig.cmake" 2>&1) && fail "packages are made of a build for another prefix"
+output=$(cd "$scratch" && cpack --config "$build/CPackConfig.cmake" 2>&1) \
+    && fail "packages are made of a build for another prefix"
 [[ $output == *"cmake --workflow --preset package"* ]] || fail "cpack does not say how packages are made: $output"
 
 finish "The installed prefix can be moved."

@@ -23,15 +23,16 @@ finish() {
 }
 
 # For cmake, where a build of the library itself is to take little time.
-cheap=(-G Ninja "-DCMAKE_CXX_COMPILER=$compiler" "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher" "-DCMAKE_CXX_FLAGS=$flags -O0")
+cheap=(-G Ninja "-DCMAKE_CXX_COMPILER=$compiler" "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher"
+    "-DCMAKE_CXX_FLAGS=$flags -O0")
 
 # step NAME COMMAND...: the output is only worth reading when it fails.
 step() {
     "${@:2}" > "$scratch/$1.log" 2>&1 || { cat "$scratch/$1.log"; echo "FAIL: $1"; exit 1; }
 }
 
-# built PROJECT [CMAKE-ARGUMENT...]: configures and builds a copy of PROJECT, which then knows nothing of this tree. A copy
-# that has not changed is not built again.
+# built PROJECT [CMAKE-ARGUMENT...]: configures and builds a copy of PROJECT, which then knows nothing of this tree. What
+# has not changed is not built again.
 built() {
     local name
     name=$(basename "$1")

@@ -6,8 +6,8 @@ second=$scratch/second
 step platform-configured cmake -S "$here/second_platform" -B "$second/platform-build" "${cheap[@]}" \
     -DCMAKE_INSTALL_PREFIX="$second/platform"
 step platform-built cmake --build "$second/platform-build" --target install
-step library-configured cmake -S "$source" -B "$second/library-build" "${cheap[@]}" -DORDERPARAM_PLATFORM=SecondPlatform \
-    -DORDERPARAM_WERROR=OFF -DCMAKE_PREFIX_PATH="$second/platform" -DCMAKE_INSTALL_PREFIX="$second/library"
+step library-configured cmake -S "$source" -B "$second/library-build" "${cheap[@]}" \
+    -DORDERPARAM_PLATFORM=SecondPlatform -DORDERPARAM_WERROR=OFF -DCMAKE_PREFIX_PATH="$second/platform" -DCMAKE_INSTALL_PREFIX="$second/library"
 step library-built cmake --build "$second/library-build" --target install
 
 if ninja -C "$second/library-build" -t deps | grep -F "$source/reference/"; then
