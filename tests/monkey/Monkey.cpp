@@ -82,6 +82,8 @@ private:
             ++m_report.actions;
             m_report.failure = wrong();
         }
+        if (m_report.failure.isEmpty())
+            showAll();
         m_report.states = m_stage.states();
         if (!m_report.failure.isEmpty())
             m_report.script = m_stage.script().path();
@@ -89,6 +91,13 @@ private:
         m_stage.close();
         if (m_report.failure.isEmpty())
             replayEpisode();
+    }
+
+    // No command hides a window, and what is hidden is laid out when it is shown again.
+    void showAll()
+    {
+        for (const Stage::Slot& slot : Stage::slotRows())
+            m_stage.show(slot);
     }
 
     QString wrong()
