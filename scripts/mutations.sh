@@ -26,7 +26,7 @@ build=$folder/build
 results=$folder/results.txt
 
 # Tests of these folders look at no code of the library that is not looked at elsewhere.
-other_folders=' benchmarks binary fuzz mutations reference sanitizers scripts support workbench '
+other_folders=' benchmarks binary docs fuzz mutations packaging reference sanitizers scripts support workbench '
 programs=(replay)
 
 # Brings the copy to the last commit; what has not changed keeps its time, and is not built again.
