@@ -7,11 +7,16 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QSettings>
+#include <QTemporaryFile>
 
+#include <cerrno>
 #include <cmath>
+#include <cstdio>
 #include <limits>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace workbench {
 
@@ -30,6 +35,25 @@ const Json* memberOf(const Json& object, const char* key)
         return nullptr;
     const auto found = object.find(key);
     return found == object.end() ? nullptr : &*found;
+}
+
+/// A link to the file stays one.
+QString targetOf(const QString& path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return target.isEmpty() ? path : target;
+}
+
+/// Puts @p bytes in the place of the file in one step; answers what went wrong.
+QString replaceFile(const QString& path, const QByteArray& bytes)
+{
+    QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
+    if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
+        return file.errorString();
+    if (std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) != 0)
+        return qt_error_string(errno);
+    file.setAutoRemove(false);
+    return {};
 }
 
 } // namespace
@@ -61,6 +85,7 @@ QByteArray writtenState(Json state)
 StateFile::StateFile(QString path)
     : m_path(std::move(path))
 {
+    m_disk.setMaxThreadCount(1);
 }
 
 QString StateFile::usualPath()
@@ -112,14 +137,29 @@ void StateFile::store(const Json& state)
     if (bytes == m_written)
         return;
     QDir().mkpath(QFileInfo(m_path).path());
-    QSaveFile file(m_path);
-    const bool isStored = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    const QString problem = replaceFile(targetOf(m_path), bytes);
+    const bool isStored = problem.isEmpty();
     if (isStored)
         m_written = bytes;
     else if (!m_hasFailed)
-        say(translated(QT_TRANSLATE_NOOP("workbench", "The state cannot be kept in %1: %2"))
-                .arg(m_path, file.errorString()));
+        say(translated(QT_TRANSLATE_NOOP("workbench", "The state cannot be kept in %1: %2")).arg(m_path, problem));
     m_hasFailed = !isStored;
+    if (isStored)
+        bringToDisk();
+}
+
+/// Who kills the program finds what the system holds. What may take long, the way to the disk, is for those who pull
+/// the plug, and nobody who types waits for it.
+void StateFile::bringToDisk()
+{
+    m_disk.clear();
+    m_disk.start([path = QFile::encodeName(m_path)] {
+        const int file = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
+        if (file < 0)
+            return;
+        ::fsync(file);
+        ::close(file);
+    });
 }
 
 void StateFile::say(const QString& message)

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QThreadPool>
 
 namespace workbench {
 
@@ -51,11 +52,13 @@ public:
 private:
     void setAside(const char* why, bool keepOriginal);
     void say(const QString& message);
+    void bringToDisk();
 
     QString m_path;
     QByteArray m_written;
     QStringList m_messages;
     bool m_hasFailed = false;
+    QThreadPool m_disk; ///< of one thread
 };
 
 /// @name Reading what anybody may have written
