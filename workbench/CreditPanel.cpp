@@ -55,6 +55,7 @@ CreditPanel::CreditPanel(Recorder* recorder, QWidget* parent)
     , m_code(new QLineEdit(QStringLiteral("600000")))
     , m_param(new QLineEdit(creditParam(ttservice::OPT_REPAY_SECURITIES_BY_BUYING)))
     , m_answers(new QLabel)
+    , m_answer(new QLineEdit)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
@@ -65,7 +66,13 @@ CreditPanel::CreditPanel(Recorder* recorder, QWidget* parent)
     m_answers->setWordWrap(true);
     m_answers->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     layout->addWidget(m_answers);
-    m_texts->keep([this] { showAnswers(); });
+    // A parameter string has no place to break a line at, and would make the window as wide as it is long.
+    m_answer->setReadOnly(true);
+    layout->addWidget(m_answer);
+    m_texts->keep([this] {
+        m_answer->setAccessibleName(translated(QT_TRANSLATE_NOOP("workbench", "Parameter string")));
+        showAnswers();
+    });
     fitTable();
 }
 
@@ -166,8 +173,11 @@ void CreditPanel::chooseContract()
 
 void CreditPanel::showAnswers()
 {
-    m_answers->setText(translated(QT_TRANSLATE_NOOP("workbench", "Account %1 · code %2 · %3"))
-                           .arg(m_table->getSelectAccount(), m_table->getCurrentCode(), m_table->param()));
+    m_answers->setText(translated(QT_TRANSLATE_NOOP("workbench", "Account %1 · code %2"))
+                           .arg(m_table->getSelectAccount(), m_table->getCurrentCode()));
+    m_answer->setText(m_table->param());
+    m_answer->setCursorPosition(0);
+    m_answer->setToolTip(m_answer->text());
 }
 
 void CreditPanel::fitTable()

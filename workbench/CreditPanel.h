@@ -56,6 +56,7 @@ private:
     QLineEdit* m_code;
     QLineEdit* m_param;
     QLabel* m_answers;
+    QLineEdit* m_answer; ///< the parameter string
 };
 
 /// A parameter string that chooses the operation and remembers a value for each row of it.

@@ -10,6 +10,8 @@ FormScroll::FormScroll(QWidget* form)
     setWidget(form);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
+    // Its fields take the keyboard, and are scrolled to by it.
+    setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 

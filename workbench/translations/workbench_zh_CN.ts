@@ -156,8 +156,8 @@
         <translation>载入</translation>
     </message>
     <message>
-        <source>Account %1 · code %2 · %3</source>
-        <translation>账号 %1 · 代码 %2 · %3</translation>
+        <source>Account %1 · code %2</source>
+        <translation>账号 %1 · 代码 %2</translation>
     </message>
     <message>
         <source>button clicked</source>
