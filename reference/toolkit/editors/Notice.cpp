@@ -82,6 +82,9 @@ void Notice::follow()
     }
     setGeometry(place(row));
     show();
+    // A new window lets events in, and one of them may have withdrawn the notice.
+    if (!m_row)
+        hide();
 }
 
 // What is left of the row between the edges of all it is scrolled in, in global coordinates.
