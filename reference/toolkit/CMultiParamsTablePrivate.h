@@ -191,21 +191,4 @@ private:
     bool m_fontScale;
 };
 
-// CellInteraction's functions that the table calls, each only once somebody interacts:
-//
-//   explicit CellInteraction(CMultiParamsTablePrivate& table);
-//   bool keyPress(QKeyEvent*), mousePress(QMouseEvent*), mouseRelease(QMouseEvent*), mouseDoubleClick(QMouseEvent*),
-//        mouseMove(QMouseEvent*), wheel(QWheelEvent*), contextMenu(QContextMenuEvent*), focusNextPrevious(bool next)
-//     answer true when they took the event; on false QTableView gets it.
-//   void leave(), focusIn(QFocusEvent*), focusOut(QFocusEvent*), hidden()
-//   void currentChanged(const QModelIndex& current, const QModelIndex& previous)
-//   bool edit(const QModelIndex&, QAbstractItemView::EditTrigger, QEvent*)   // all of QTableView's editing goes here
-//   void closeEditor(QWidget*, QAbstractItemDelegate::EndEditHint)
-//   void relayout()           // rows, widths, scale or scroll position have changed: move the open editor
-//   void cellChanged(const CellItem&)   // from the program, an editor may stand open over it
-//   void enabledChanged(), filterChanged(), themeChanged()
-//   void addRowState(const CellItem&, RowState&) const
-//   FooterState footerState() const     // enabled and active are filled in by the table
-//   QString wrongText(const CellItem&) const   // what a tooltip says of wrong input; empty when there is none
-
 } // namespace WQ
