@@ -81,6 +81,9 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
 
+    /// A part under another one's tab counts as visible to Qt, and Tab would go through it where nobody sees it.
+    bool focusNextPrevChild(bool next) override;
+
 private:
     /// A part of the window: the name that its place is kept under, its title, and the keys that lead to it.
     struct DockRow

@@ -47,6 +47,15 @@ QWidget* firstField(QWidget* content)
     return content;
 }
 
+/// Whether the part that @p widget belongs to is on the screen, and not under another one's tab.
+bool isInFront(const QWidget& widget)
+{
+    for (const QWidget* at = &widget; at; at = at->parentWidget())
+        if (qobject_cast<const QDockWidget*>(at))
+            return !at->visibleRegion().isEmpty();
+    return true;
+}
+
 } // namespace
 
 /// Rows stand in the order of the View menu. A part lies beside those of its area, or under the tab of another one.
@@ -138,6 +147,18 @@ void MainWindow::goTo(QDockWidget* dock)
     QWidget* const content = dock->widget();
     QWidget* const first = content->focusProxy() ? content->focusProxy() : firstField(content);
     first->setFocus(Qt::ShortcutFocusReason);
+}
+
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    const QWidget* hidden = nullptr;
+    while (QMainWindow::focusNextPrevChild(next)) {
+        const QWidget* const now = focusWidget();
+        if (!now || now == hidden || isInFront(*now))
+            return true;
+        hidden = hidden ? hidden : now;
+    }
+    return false;
 }
 
 } // namespace workbench

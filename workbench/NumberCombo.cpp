@@ -32,6 +32,7 @@ void NumberCombo::setValue(int value)
     m_value = value;
     setCurrentIndex(findData(value));
     setEditText(valueWithName(m_rows, value));
+    setToolTip(currentText());
     lineEdit()->setCursorPosition(0);
 }
 
