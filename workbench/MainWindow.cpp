@@ -179,7 +179,7 @@ void MainWindow::readTable()
     const QString code = m_controls->drive().code;
     if (m_quotes->instrument().code != code) {
         m_header->showInstrument(code);
-        m_quotes->setInstrument(m_header->instrument());
+        m_quotes->showInstrument(m_header->instrument());
     }
     m_header->showBroker(m_bench->setup().brokerType);
     if (m_bench->table())

@@ -63,6 +63,9 @@ public:
     void chooseScale(double scale);
     void chooseLanguage(const QString& language);
 
+    /// Opens the list of everything that can be done, to be found by typing.
+    void find();
+
     /// Brings back what was committed and chosen in the last run, and keeps from now on what is committed and chosen in
     /// this one. Modules, client mode and clock are left as they are when the host was told where to read them.
     enum class Services { Kept, AsTold };
@@ -124,7 +127,6 @@ private:
     void goToCell(int cell);
     void explainCell();
     void compareWithPanel();
-    void find();
     void chooseNextTheme();
     void chooseNextLanguage();
     void showPanelAlone(bool alone);

@@ -7,7 +7,7 @@
 namespace workbench {
 
 NumberCombo::NumberCombo(const Rows<NamedValue>& rows, int value, QWidget* parent)
-    : QComboBox(parent)
+    : WideListCombo(parent)
     , m_rows(rows)
     , m_value(value)
 {

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "workbench/Vocabulary.h"
-
-#include <QComboBox>
+#include "workbench/WideListCombo.h"
 
 namespace workbench {
 
 /// A combo of values with meaning that also takes any other integer: a person may type a number.
-class NumberCombo : public QComboBox
+class NumberCombo : public WideListCombo
 {
     Q_OBJECT
 public:

@@ -3,6 +3,7 @@
 #include "workbench/LanguageTexts.h"
 #include "workbench/NumberCombo.h"
 #include "workbench/Vocabulary.h"
+#include "workbench/WideListCombo.h"
 
 #include <ttservice/Enumerations.h>
 
@@ -34,7 +35,7 @@ OrderHeader::OrderHeader(QWidget* parent)
     , m_code(new QLineEdit)
     , m_completer(new QCompleter(this))
     , m_name(new QLabel)
-    , m_account(new QComboBox)
+    , m_account(new WideListCombo)
     , m_operation(new NumberCombo(operationTypes(), ttservice::OPT_NONE))
 {
     createFields();
@@ -170,14 +171,19 @@ void OrderHeader::focusCode()
     m_code->selectAll();
 }
 
-/// The list below the field shows what Enter takes: its first row, unless a row is chosen or the text is a whole code.
+/// The list below the field shows what Enter takes: the row that was gone to, else the first one, unless the text is a
+/// whole code.
 void OrderHeader::takeCode()
 {
     const QString typed = m_code->text().trimmed();
     const bool isListed = m_completer->popup()->isVisible() && m_completer->completionCount() > 0;
     const bool isWhole = !instrumentOf(m_instruments, typed).name.isEmpty();
-    if (isListed && !isWhole)
-        choose(codeIn(m_completer->completionModel()->index(0, 0).data().toString()));
+    const QModelIndex first = m_completer->completionModel()->index(0, 0);
+    const QModelIndex chosen = isListed ? m_completer->popup()->currentIndex() : QModelIndex();
+    if (chosen.isValid())
+        choose(codeIn(chosen.data().toString()));
+    else if (isListed && !isWhole)
+        choose(codeIn(first.data().toString()));
     else
         choose(codeIn(typed));
 }

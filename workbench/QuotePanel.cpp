@@ -57,7 +57,7 @@ QuotePanel::QuotePanel(QWidget* parent)
     });
 }
 
-void QuotePanel::setInstrument(const Instrument& instrument)
+void QuotePanel::showInstrument(const Instrument& instrument)
 {
     m_instrument = instrument;
     if (instrument.price > 0.0)

@@ -25,7 +25,7 @@ public:
     QuoteFeed* feed() const;
 
     /// Names the instrument; the quote starts from its price where that is known.
-    void setInstrument(const Instrument& instrument);
+    void showInstrument(const Instrument& instrument);
 
     const Instrument& instrument() const;
 

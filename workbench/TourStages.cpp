@@ -159,6 +159,8 @@ Stage stageWindow(const WindowStop& stop, const HostData& data)
     hostCall(*table, calls::kSetFixedPrice, 10.23);
     if (auto* why = workbench.findChild<WhyPanel*>())
         why->choose(TC::OCF_TailMinVolume);
+    if (QLatin1String(stop.dock) == QLatin1String("finder"))
+        workbench.find();
     settle();
     return stage;
 }

@@ -60,7 +60,7 @@ struct WindowStop
 {
     const char* name;
     const char* language;
-    const char* dock; ///< in front of its tabs
+    const char* dock; ///< in front of its tabs; "finder" opens the list of all commands over the window
     int orderType;
     int width;
     int height;

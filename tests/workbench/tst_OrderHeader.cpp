@@ -37,6 +37,7 @@ private Q_SLOTS:
     void init();
     void aPartOfTheNameChoosesTheInstrument();
     void aWholeCodeWinsOverTheFirstOfTheList();
+    void theListIsGoneThroughByKeys();
     void aCodeThatNobodyKnowsIsTaken();
     void whatIsTypedAndLeftChangesNothing();
     void theQuoteNamesTheInstrumentAndStartsFromItsPrice();
@@ -126,6 +127,17 @@ void tst_OrderHeader::aWholeCodeWinsOverTheFirstOfTheList()
     QCOMPARE(shownName(*window), QStringLiteral("乙酒业"));
     choose(hands, QStringLiteral("10"));
     QCOMPARE(shownName(*window), QStringLiteral("甲银行"));
+}
+
+void tst_OrderHeader::theListIsGoneThroughByKeys()
+{
+    const auto window = person::open(threeTasks());
+    person::CountingHands hands(*window);
+    hands.press(Qt::Key_I, Qt::ControlModifier);
+    hands.type(QStringLiteral("0"));
+    for (const int key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+        hands.press(key);
+    QCOMPARE(shownName(*window), QStringLiteral("丙科技"));
 }
 
 void tst_OrderHeader::aCodeThatNobodyKnowsIsTaken()
