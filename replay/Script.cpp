@@ -63,12 +63,7 @@ std::string absurdity(const std::string& line)
 /// What is wrong may quote bytes of the line that are no UTF-8; an answer is.
 Json wrongLine(const std::string& why)
 {
-    return {{"ok", false},
-            {"result", nullptr},
-            {"error", "malformed JSON: " + QString::fromStdString(why).toStdString()},
-            {"events", Json::array()},
-            {"saves", 0},
-            {"reloads", 0}};
+    return wrongAnswer("malformed JSON: " + QString::fromStdString(why).toStdString());
 }
 
 Json answerOf(Session& session, const std::string& line)

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 
 #include <exception>
+#include <utility>
 
 namespace replay {
 
@@ -39,7 +40,25 @@ Outcome carryOut(Session& session, Objects& objects, const Json& command)
     }
 }
 
+Json answerOf(const Outcome& outcome, Json events, const Objects::HookCounts& hooks)
+{
+    Json answer = Json::object();
+    answer["ok"] = outcome.error.is_null();
+    answer["result"] = outcome.result;
+    if (!outcome.error.is_null())
+        answer["error"] = outcome.error;
+    answer["events"] = std::move(events);
+    answer["saves"] = hooks.saves;
+    answer["reloads"] = hooks.reloads;
+    return answer;
+}
+
 } // namespace
+
+Json wrongAnswer(const std::string& error)
+{
+    return answerOf({nullptr, error}, Json::array(), {});
+}
 
 class Session::Private
 {
@@ -70,15 +89,7 @@ Json Session::run(const Json& command)
     if (d->objects.isAnyVisible())
         QCoreApplication::sendPostedEvents(); // what is shown is laid out and painted between two commands
     const Objects::HookCounts hooks = d->objects.takeHookCounts();
-    Json answer = Json::object();
-    answer["ok"] = outcome.error.is_null();
-    answer["result"] = outcome.result;
-    if (!outcome.error.is_null())
-        answer["error"] = outcome.error;
-    answer["events"] = d->objects.takeEvents();
-    answer["saves"] = hooks.saves;
-    answer["reloads"] = hooks.reloads;
-    return answer;
+    return answerOf(outcome, d->objects.takeEvents(), hooks);
 }
 
 QWidget* Session::object(const QString& name) const

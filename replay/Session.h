@@ -5,10 +5,14 @@
 #include <QtCore/QString>
 
 #include <memory>
+#include <string>
 
 class QWidget;
 
 namespace replay {
+
+/// The answer to what cannot be carried out, with nothing changed and nothing heard.
+Json wrongAnswer(const std::string& error);
 
 /// The objects of one run and what happens to them: carries out one command after another, as the protocol says. There
 /// is one session at a time, because the services it switches belong to the whole program.
