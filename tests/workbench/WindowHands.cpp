@@ -181,11 +181,13 @@ void WindowHands::clickMode(int id)
     settle();
 }
 
-void WindowHands::clickModeIfShown(int id)
+void WindowHands::clickModeIfShown(QWidget* parent, int id)
 {
-    for (const auto* button : m_window.bench()->findChildren<WQ::CPushButton*>())
+    QApplication::setActiveWindow(parent->window());
+    for (auto* button : parent->findChildren<WQ::CPushButton*>())
         if (button->id() == id && button->isVisible())
-            return clickMode(id);
+            QTest::mouseClick(button, Qt::LeftButton);
+    settle();
 }
 
 /// The strip's chevron, and an entry of what opens below it.

@@ -49,7 +49,7 @@ protected:
     static void press(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     void clickMode(int id);
-    void clickModeIfShown(int id);
+    static void clickModeIfShown(QWidget* parent, int id);
     void chooseModeInDropDown(int entry);
     void clickHelp();
     void enterCode(const QString& code);

@@ -43,6 +43,7 @@ private:
     /// @{
     int below(int count);
     QString anyNumber();
+    int anyModeButton();
     void anyEdit(const CellHand& hand);
     void panelEdit();
     void panelFilter();

@@ -96,6 +96,11 @@ QString WindowWalk::anyNumber()
     return textOf(kNumbers, below(kNumbers.size()));
 }
 
+int WindowWalk::anyModeButton()
+{
+    return kModeButtons[static_cast<std::size_t>(below(kModeButtons.size()))];
+}
+
 void WindowWalk::anyEdit(const CellHand& hand)
 {
     const std::vector<int> ids = hand.editable();
@@ -156,7 +161,7 @@ void WindowWalk::panelMode()
     case 1:
         return clickHelp();
     default:
-        return clickModeIfShown(kModeButtons[static_cast<std::size_t>(below(kModeButtons.size()))]);
+        return clickModeIfShown(m_window.findChild<QWidget*>(QStringLiteral("tableBench")), anyModeButton());
     }
 }
 
@@ -214,6 +219,8 @@ void WindowWalk::anyDialogAct()
     const std::vector<int> ids = CellHand(*cells).shown();
     if (act == 2 && !ids.empty())
         return CellHand(*cells).doubleClick(ids.front());
+    if (act == 3)
+        return clickModeIfShown(dialog(), anyModeButton());
     anyEdit(CellHand(*cells));
 }
 
