@@ -66,9 +66,9 @@ void aStockCodeIsTyped(Walker& w)
 {
     auto& code = w.fieldAs<QLineEdit>(calls(w), w.say("Instrument code", "合约代码"));
     w.hands().click(code);
-    w.hands().type(QStringLiteral("600000"));
+    w.hands().type(QStringLiteral("900101"));
     w.hands().press(Qt::Key_Return);
-    const QString answer = w.say("code 600000", "代码 600000");
+    const QString answer = w.say("code 900101", "代码 900101");
     QVERIFY(!w.labels(calls(w)).join(QLatin1Char('\n')).contains(answer));
     QWidget& tables = w.field(w.part(w.say("Modules and host", "模块与宿主")), w.say("Table class", "表类"));
     w.choose(tables, w.say("Code table", "代码参数表"));
