@@ -10,12 +10,25 @@ pictures=(
     "workbench.png|window-zh-dark-1.00.png"
 )
 
+# document's picture | the walk's, without its number
+walked=(
+    "window-dark.png|en/*-expanded.png"
+    "window-light.png|zh_CN/*-light.png"
+    "cell-menu.png|en/*-cell-menu.png"
+)
+
 ensure_packages graphviz optipng
 tour=$(mktemp -d "${TMPDIR:-/tmp}/orderparam-tour.XXXXXX")
 trap 'rm -rf "$tour"' EXIT
 step "rendering the tour" ./run.sh --tour "$tour" "$@"
 for row in "${pictures[@]}"; do
     cp "$tour/${row#*|}" "docs/pictures/${row%|*}" || fail "the tour has no picture ${row#*|}"
+done
+
+step "walking through the window" env ORDERPARAM_WALK_PICTURES="$tour/walk" ./test.sh -- -R '^tst_Walk$'
+for row in "${walked[@]}"; do
+    # shellcheck disable=SC2086 # the number of a picture is the pattern's to find
+    cp "$tour"/walk/${row#*|} "docs/pictures/${row%|*}" || fail "the walk has no picture ${row#*|}"
 done
 
 # Every panel that docs/panels.md shows, in the default theme.
