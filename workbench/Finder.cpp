@@ -37,7 +37,7 @@ bool movesInList(int key)
 } // namespace
 
 Finder::Finder(QWidget* window)
-    : QWidget(window, Qt::Popup)
+    : QFrame(window, Qt::Popup)
     , m_text(new QLineEdit)
     , m_model(new QStandardItemModel(this))
     , m_list(new HostTable)
@@ -48,6 +48,7 @@ Finder::Finder(QWidget* window)
     layout->addWidget(m_text);
     layout->addWidget(m_list, 1);
     createList();
+    setFrameShape(QFrame::StyledPanel);
     setFocusProxy(m_text);
     m_text->installEventFilter(this);
     connect(m_text, &QLineEdit::textChanged, this, &Finder::search);
@@ -105,7 +106,7 @@ void Finder::search(const QString& text)
 bool Finder::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
+        return QFrame::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (movesInList(key)) {
         QCoreApplication::sendEvent(m_list, event);
@@ -115,7 +116,7 @@ bool Finder::eventFilter(QObject* watched, QEvent* event)
         run(m_list->currentIndex().row());
         return true;
     }
-    return QWidget::eventFilter(watched, event);
+    return QFrame::eventFilter(watched, event);
 }
 
 /// What is done may open lists and dialogs of its own: this one is gone by then.

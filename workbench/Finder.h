@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QFrame>
 
 #include <functional>
 #include <vector>
@@ -21,7 +21,7 @@ struct FinderEntry
 };
 
 /// A list of everything that can be done, found by typing: it opens over the window, Enter does it, Esc leaves it.
-class Finder : public QWidget
+class Finder : public QFrame
 {
     Q_OBJECT
 public:
