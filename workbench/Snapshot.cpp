@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QPainter>
 #include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -11,13 +14,27 @@ namespace {
 /// Room between the window and the edge of a picture that popups have made larger.
 constexpr int kMargin = 12;
 
+int ownersOf(const QWidget& window)
+{
+    int count = 0;
+    for (const QWidget* owner = window.parentWidget(); owner; owner = owner->window()->parentWidget())
+        ++count;
+    return count;
+}
+
+/// From the lowest to the topmost: what belongs to a window stands above it, what came later above what came before.
 QWidgetList openWindows(QWidget& window)
 {
-    QWidgetList windows{&window};
-    const QWidgetList all = QApplication::topLevelWidgets();
-    for (QWidget* other : all)
-        if (other != &window && other->isVisible())
-            windows << other;
+    QWidgetList windows;
+    const QWindowList all = QGuiApplication::topLevelWindows();
+    for (const QWindow* other : all) {
+        QWidget* widget = other->isVisible() ? QWidget::find(other->winId()) : nullptr;
+        if (widget && widget != &window)
+            windows << widget;
+    }
+    std::stable_sort(windows.begin(), windows.end(),
+                     [](const QWidget* a, const QWidget* b) { return ownersOf(*a) < ownersOf(*b); });
+    windows.prepend(&window);
     return windows;
 }
 
