@@ -28,7 +28,7 @@ while [[ $# -gt 0 ]]; do
     shift
 done
 
-[[ $install == no ]] || ensure_packages "${build_packages[@]}"
+[[ $install == no ]] || ensure_packages "${build_packages[@]}" "${test_packages[@]}"
 prepare_environment
 build_preset "$preset"
 step "testing $preset" ctest --preset "$preset" --parallel "$(nproc)" "$@"

@@ -17,6 +17,9 @@ build_packages=(
     pkg-config
 )
 
+# What the tests need beyond that: the manual of the headers is one of them.
+test_packages=(doxygen)
+
 # What making and checking Debian packages needs beyond that.
 packaging_packages=(dpkg-dev fakeroot file lintian)
 

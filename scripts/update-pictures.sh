@@ -7,7 +7,6 @@
 pictures=(
     "panel-dark.png|order-stock-algorithm-expanded-dark-2.00.png"
     "panel-light.png|order-stock-algorithm-expanded-light-2.00.png"
-    "workbench.png|window-zh-dark-1.00.png"
 )
 
 # document's picture | the walk's, without its number
