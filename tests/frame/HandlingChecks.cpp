@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -199,19 +200,19 @@ HeldCell HandlingChecks::heldNow(int cell) const
 void HandlingChecks::begin()
 {
     m_held.clear();
-    m_toldOf.clear();
+    m_isTold = false;
     m_toldForNothing.clear();
     for (const CellItem* cell : cellsOf(m_table))
         m_held.insert(cell->id(), heldNow(cell->id()));
 }
 
-// Of several events of one cell the first may have made a listener change it back: only that one is judged.
+// The first of several events may have made a listener change other cells: only that one is judged.
 void HandlingChecks::told(const WQ::PersonEvent& event)
 {
     ++m_events[event.event];
     const bool isValue =
         std::find(std::begin(kValueEvents), std::end(kValueEvents), event.event) != std::end(kValueEvents);
-    if ((!isValue && event.event != kUnitOrCheck) || m_toldOf[event.a]++ > 0)
+    if ((!isValue && event.event != kUnitOrCheck) || std::exchange(m_isTold, true))
         return;
     const HeldCell before = m_held.value(event.a);
     const HeldCell now = heldNow(event.a);

@@ -42,7 +42,7 @@ private:
     WQ::CMultiParamsTable& m_table;
     WQ::PersonEventWatcher m_before;
     QHash<int, HeldCell> m_held; // before the deed, by cell
-    QHash<int, int> m_toldOf;    // events of this deed, by cell
     QHash<int, int> m_events;
     QString m_toldForNothing;
+    bool m_isTold = false; // something, in this deed
 };
