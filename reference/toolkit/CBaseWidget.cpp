@@ -26,7 +26,11 @@ CBaseWidget::CBaseWidget(QString objectName, bool active, QWidget* parent)
     d->active = active;
 }
 
-CBaseWidget::~CBaseWidget() = default;
+CBaseWidget::~CBaseWidget()
+{
+    // Each of its parts would ask for a repaint of its place; the place of the whole is asked for after them.
+    setUpdatesEnabled(false);
+}
 
 bool CBaseWidget::handleEvent(int, int, int, QString, void*)
 {

@@ -74,7 +74,11 @@ CMultiParamsTable::CMultiParamsTable(QWidget* parent, bool fontScale)
     d->setUpView();
 }
 
-CMultiParamsTable::~CMultiParamsTable() = default;
+CMultiParamsTable::~CMultiParamsTable()
+{
+    // Each of its parts would ask for a repaint of its place; the place of the whole is asked for after them.
+    setUpdatesEnabled(false);
+}
 
 bool CMultiParamsTable::event(QEvent* event)
 {

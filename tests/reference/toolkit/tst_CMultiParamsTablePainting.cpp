@@ -2,6 +2,8 @@
 
 #include "reference/toolkit/Resources.h"
 
+#include <WQ/CBaseWidget.h>
+
 using namespace table_fixture;
 
 class tst_CMultiParamsTablePainting : public QObject
@@ -17,6 +19,8 @@ private Q_SLOTS:
     void separatorIsOneDevicePixel_data();
     void separatorIsOneDevicePixel();
     void themeRepaints();
+    void thePlaceOfWhatGoesIsPaintedOnce_data();
+    void thePlaceOfWhatGoesIsPaintedOnce();
 };
 
 void tst_CMultiParamsTablePainting::cleanup()
@@ -133,6 +137,32 @@ void tst_CMultiParamsTablePainting::themeRepaints()
     QVERIFY(WQ::resources::setTheme(QStringLiteral("light")));
     QTRY_VERIFY(paints.count > 0);
     QCOMPARE(table.grab().toImage().pixelColor(2, 2).name(), QStringLiteral("#ffffff"));
+}
+
+void tst_CMultiParamsTablePainting::thePlaceOfWhatGoesIsPaintedOnce_data()
+{
+    QTest::addColumn<bool>("isHeld");
+    QTest::newRow("a table") << false;
+    QTest::newRow("a widget that holds a table") << true;
+}
+
+void tst_CMultiParamsTablePainting::thePlaceOfWhatGoesIsPaintedOnce()
+{
+    QFETCH(bool, isHeld);
+    QWidget window;
+    window.resize(300, 200);
+    auto* table = new Table;
+    QWidget* going = isHeld ? new WQ::CBaseWidget(QString(), false, &window) : static_cast<QWidget*>(table);
+    table->setParent(isHeld ? going : &window);
+    going->setGeometry(20, 30, 240, 104);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+    EventCounter paints(&window, QEvent::Paint);
+    delete going;
+    QTRY_VERIFY(!paints.region.isEmpty());
+    QCOMPARE(paints.region, QRegion(20, 30, 240, 104));
+    QCOMPARE(paints.count, 1);
 }
 
 QTEST_MAIN(tst_CMultiParamsTablePainting)
