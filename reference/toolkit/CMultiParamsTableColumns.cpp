@@ -36,8 +36,13 @@ void takeSections(QHeaderView& header, int count)
 void CMultiParamsTablePrivate::placeSections()
 {
     takeSections(*m_table->horizontalHeader(), m_model->columnCount());
-    takeSections(*m_table->verticalHeader(), m_model->rowCount());
+    placeRows();
     placeColumns();
+}
+
+void CMultiParamsTablePrivate::placeRows()
+{
+    takeSections(*m_table->verticalHeader(), m_model->rowCount());
 }
 
 int CMultiParamsTablePrivate::labelColumn() const

@@ -69,7 +69,7 @@ void CMultiParamsTablePrivate::connectModel()
     QObject::connect(m_model, &CellModel::filterLookChanged, m_table, [this] { updateFooter(); });
     QObject::connect(m_model, &CellModel::rowsReplaced, m_table, [this] {
         m_painted.clear();
-        placeSections();
+        placeRows();
         takeNeededHeight();
         layout();
         m_table->viewport()->update();

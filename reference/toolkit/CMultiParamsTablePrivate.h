@@ -173,6 +173,7 @@ private:
     QRect changedRect(int row);
     void connectModel();
     void placeSections();
+    void placeRows();
     void placeColumns();
     void takeRowHeight();
     void takeNeededHeight();

@@ -28,6 +28,7 @@ std::vector<int> CellModel::shownPositions() const
         if (isShown(*m_items[position]->cell()))
             shown.push_back(static_cast<int>(position));
     }
+    m_shownCount = static_cast<int>(shown.size());
     return shown;
 }
 
