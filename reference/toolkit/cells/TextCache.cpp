@@ -1,5 +1,6 @@
 #include "reference/toolkit/cells/TextCache.h"
 
+#include "reference/toolkit/cells/DigitPictures.h"
 #include "reference/toolkit/cells/TextFace.h"
 
 #include <QCoreApplication>
@@ -106,15 +107,26 @@ QString pictureKey(const QString& text, const Face& face, QRgb color, QRgb groun
     return key;
 }
 
-QPixmap pictureOf(const PreparedText& text, const Face& face, const QColor& color, const QColor& ground, int ratio)
+QSize sizeOf(const QString& text, const Face& face)
 {
-    QPixmap picture(QSize(text.width + 2 * kMargin, text.height + 2 * kMargin) * ratio);
+    return face.isNumber(text) ? QSize(width(text, face), face.height())
+                               : QSize(kept(text, face).width, kept(text, face).height);
+}
+
+QPixmap pictureOf(const QString& text, const Face& face, const QColor& color, const QColor& ground, int ratio)
+{
+    QPixmap picture((sizeOf(text, face) + QSize(2 * kMargin, 2 * kMargin)) * ratio);
     picture.setDevicePixelRatio(ratio);
     picture.fill(ground);
     QPainter painter(&picture);
-    painter.setFont(face.font());
     painter.setPen(color);
-    painter.drawStaticText(kMargin, kMargin, text.text);
+    const QPoint position(kMargin, kMargin);
+    if (face.isNumber(text)) {
+        face.drawNumber(painter, position, text, TextSpan{0, picture.width()});
+    } else {
+        painter.setFont(face.font());
+        painter.drawStaticText(position, kept(text, face).text);
+    }
     return picture;
 }
 
@@ -163,15 +175,14 @@ void Pen::draw(const QRect& area, const QString& text, const QColor& color, cons
         return;
     const QPoint position(area.left(), area.top() + (area.height() - m_face.height()) / 2);
     const bool isNumber = m_face.isNumber(text);
-    if (m_pictureRatio > 0 && !isNumber && text.size() <= kLongestKept) {
+    // A number that is seen whole comes back as it is; of one that changes only the new digits are seen.
+    const bool comesBack = isNumber ? m_seen.contains(area) : text.size() <= kLongestKept;
+    if (m_pictureRatio > 0 && comesBack)
         drawPicture(position, area, text, color, ground);
-        return;
-    }
-    m_painter.setPen(color);
-    if (isNumber)
-        m_face.drawNumber(m_painter, position, text, TextSpan{m_seen.left() - position.x(), m_seen.width()});
+    else if (isNumber)
+        drawDigits(position, text, color, ground);
     else
-        drawDirectly(position, text);
+        drawDirectly(position, text, color);
 }
 
 void Pen::drawPicture(const QPoint& position, const QRect& area, const QString& text, const QColor& color,
@@ -180,7 +191,7 @@ void Pen::drawPicture(const QPoint& position, const QRect& area, const QString& 
     const QString key = pictureKey(text, m_face, color.rgba(), ground.rgba(), m_pictureRatio);
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
-        picture = pictureOf(kept(text, m_face), m_face, color, ground, m_pictureRatio);
+        picture = pictureOf(text, m_face, color, ground, m_pictureRatio);
         QPixmapCache::insert(key, picture);
     }
     const QRect whole(position - QPoint(kMargin, kMargin), picture.size() / m_pictureRatio);
@@ -190,8 +201,19 @@ void Pen::drawPicture(const QPoint& position, const QRect& area, const QString& 
     m_painter.drawPixmap(seen, picture, QRect(cut, seen.size() * m_pictureRatio));
 }
 
-void Pen::drawDirectly(const QPoint& position, const QString& text)
+void Pen::drawDigits(const QPoint& position, const QString& text, const QColor& color, const QColor& ground)
 {
+    const TextSpan seen{m_seen.left() - position.x(), m_seen.width()};
+    if (m_pictureRatio > 0
+        && digitPictures(m_face, color.rgba(), ground.rgba(), m_pictureRatio).draw(m_painter, position, text, seen))
+        return;
+    m_painter.setPen(color);
+    m_face.drawNumber(m_painter, position, text, seen);
+}
+
+void Pen::drawDirectly(const QPoint& position, const QString& text, const QColor& color)
+{
+    m_painter.setPen(color);
     if (!m_fontSet)
         m_painter.setFont(m_face.font());
     m_fontSet = true;

@@ -42,7 +42,8 @@ private:
 
     void drawPicture(const QPoint& position, const QRect& area, const QString& text, const QColor& color,
                      const QColor& ground);
-    void drawDirectly(const QPoint& position, const QString& text);
+    void drawDigits(const QPoint& position, const QString& text, const QColor& color, const QColor& ground);
+    void drawDirectly(const QPoint& position, const QString& text, const QColor& color);
 
     QPainter& m_painter;
     const Face& m_face;

@@ -15,9 +15,6 @@ namespace {
 
 constexpr int kLongestNumber = 64;
 
-// What a glyph may reach over its own width.
-constexpr int kOverhang = 1;
-
 const QString& numberCharacters()
 {
     static const QString characters = QStringLiteral("0123456789.,:-+ ");
@@ -107,7 +104,7 @@ qreal Face::numberWidth(QStringView text) const
 {
     qreal width = 0;
     for (const QChar c : text)
-        width += m_advances[static_cast<std::size_t>(c.unicode())];
+        width += advance(c);
     return width;
 }
 
@@ -124,23 +121,22 @@ std::optional<TextSpan> Face::difference(const QString& one, const QString& othe
     return TextSpan{from, static_cast<int>(std::ceil(right)) + kOverhang - from};
 }
 
-void Face::drawNumber(QPainter& painter, const QPoint& position, const QString& text, const TextSpan& seen) const
+void Face::drawNumber(QPainter& painter, const QPointF& position, const QString& text, const TextSpan& seen) const
 {
     std::array<quint32, kLongestNumber> glyphs;
     std::array<QPointF, kLongestNumber> places;
     std::size_t count = 0;
     qreal left = 0;
     for (const QChar c : text) {
-        const auto character = static_cast<std::size_t>(c.unicode());
-        const qreal right = left + m_advances[character];
+        const qreal right = left + advance(c);
         if (right + kOverhang >= seen.left && left - kOverhang <= seen.left + seen.width) {
-            glyphs[count] = m_glyphs[character];
+            glyphs[count] = m_glyphs[static_cast<std::size_t>(c.unicode())];
             places[count++] = QPointF(left, 0);
         }
         left = right;
     }
     m_run.setRawData(glyphs.data(), places.data(), static_cast<int>(count));
-    painter.drawGlyphRun(position + QPoint(0, m_ascent), m_run);
+    painter.drawGlyphRun(position + QPointF(0, m_ascent), m_run);
 }
 
 const Face& faceOf(const QFont& font)

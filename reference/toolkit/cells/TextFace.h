@@ -26,6 +26,9 @@ struct TextSpan
 class WQ_EXPORT Face
 {
 public:
+    /// What a character of a number may reach over its own width, in pixels.
+    static constexpr int kOverhang = 1;
+
     explicit Face(const QFont& font);
     Face(const Face&) = delete;
     Face& operator=(const Face&) = delete;
@@ -48,12 +51,18 @@ public:
     /// The width of a text that isNumber().
     qreal numberWidth(QStringView text) const;
 
+    /// How far after @p character of a number the next one stands.
+    qreal advance(QChar character) const
+    {
+        return m_advances[static_cast<std::size_t>(character.unicode())];
+    }
+
     /// Where two numbers that start at the same place are not the same to the pixel; nothing where all may differ.
     std::optional<TextSpan> difference(const QString& one, const QString& other) const;
 
     /// Draws a text that isNumber() in the painter's pen, its top left corner at @p position. Characters out of
     /// @p seen may be left out.
-    void drawNumber(QPainter& painter, const QPoint& position, const QString& text, const TextSpan& seen) const;
+    void drawNumber(QPainter& painter, const QPointF& position, const QString& text, const TextSpan& seen) const;
 
 private:
     static constexpr int kNumberCharacters = 64; // all of them are below
