@@ -13,7 +13,11 @@ set(cases
     "OrderParamTable_mini/semantics/Rule.cpp|QString|kept"
     "OrderParamTable_mini/semantics/Rule.cpp|QtCore/QString|kept"
     "OrderParamTable_mini/semantics/Rule.cpp|vector|kept"
+    "OrderParamTable_mini/semantics/Rule.cpp|QtGlobal|kept"
+    "OrderParamTable_mini/semantics/Rule.cpp|QtCore|kept"
     "OrderParamTable_mini/semantics/Rule.cpp|QWidget|broken"
+    "OrderParamTable_mini/semantics/Rule.cpp|QtWidgets|broken"
+    "OrderParamTable_mini/semantics/Rule.cpp|QtGui|broken"
     "OrderParamTable_mini/semantics/Rule.cpp|qwidget.h|broken"
     "OrderParamTable_mini/semantics/Rule.cpp|QtWidgets/QWidget|broken"
     "OrderParamTable_mini/semantics/Rule.h|QColor|broken"
@@ -25,7 +29,11 @@ set(cases
     "OrderParamTable_mini/semantics/COrderParamBaseTable_Area.cpp|OrderParamTable_mini/tables/Table.h|broken"
     "OrderParamTable_mini/frame/Frame.cpp|OrderParamTable_mini/semantics/Rule.h|kept"
     "OrderParamTable_mini/frame/Frame.cpp|OrderParamTable_mini/tables/Table.h|broken"
+    "OrderParamTable_mini/frame/Frame.cpp|QtWidgets|kept"
     "OrderParamTable_mini/frame/Frame.cpp|reference/toolkit/Item.h|broken"
+    "OrderParamTable_mini/frame/Frame.cpp|docs/Bridge.h|broken"
+    "OrderParamTable_mini/frame/Frame.cpp|../Bridge.h|broken"
+    "OrderParamTable_mini/frame/Frame.cpp|OrderParamTable_mini/frame/Rows.inc|broken"
     "OrderParamTable_mini/tables/Table.cpp|OrderParamTable_mini/frame/Frame.h|kept"
     "OrderParamTable_mini/tables/Table.cpp|OrderParamTable_mini/credit/Credit.h|broken"
     "OrderParamTable_mini/credit/Credit.cpp|OrderParamTable_mini/tables/Table.h|broken"
@@ -59,7 +67,8 @@ foreach(case IN LISTS cases)
             OrderParamTable_mini/semantics/Rule.h OrderParamTable_mini/frame/Frame.h OrderParamTable_mini/tables/Table.h
             OrderParamTable_mini/credit/Credit.h OrderParamTable_mini/platform/WQ/CellTable.h
             OrderParamTable_mini/platform/WQ/WqExport.h OrderParamTable_mini/platform/TC/Service.h OrderParamTable_mini/platform/ttservice/Record.h
-            reference/toolkit/Item.h workbench/Window.h tests/Helper.h)
+            reference/toolkit/Item.h workbench/Window.h tests/Helper.h
+            docs/Bridge.h OrderParamTable_mini/Bridge.h OrderParamTable_mini/frame/Rows.inc)
         file(WRITE "${SCRATCH}/${header}" "#pragma once\n")
     endforeach()
     foreach(spelling IN ITEMS "#include <${included}>" "  #  include \"${included}\"  // why")
