@@ -109,7 +109,7 @@ public:
     /// @param value any text
     void refreshUnrepayValue(const QString& value);
 
-    /// A contract was chosen: empties the code and shows its figures.
+    /// A contract was chosen: empties the code, shows the unrepaid figure and "0" to repay with.
     /// @param compact the contract; an empty one, or one without data, changes nothing
     /// @param unrepayValue the unrepaid figure as text
     /// @param showZero whether "0" is shown instead
@@ -158,8 +158,8 @@ protected:
     /// but 1.0.
     void resetColumnWidth();
 
-    /// Lays the rows out for the operation and shows the remembered figures. Sends 1083 when no code is remembered,
-    /// then 73 with the current account.
+    /// Lays the rows out for the operation and shows the remembered figures. When no code is remembered, first empties
+    /// the rows 727 to 731 and sends 1083. Ends with 73, the current account.
     void refreshUIData();
 
     /// Shows a code, or empties the code and all figures.

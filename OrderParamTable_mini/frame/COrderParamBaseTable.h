@@ -155,8 +155,8 @@ public:
     /// @name Visibility
     /// @{
 
-    /// Collapses or expands the table: collapsed it shows what the user chose to see, expanded all that the rules
-    /// allow. In order type 1 expanding shows the six cells of the algorithm whatever the flags say.
+    /// Collapsed the table shows what the user chose to see, expanded all that the rules allow. In order type 1
+    /// expanding shows the algorithm's six cells whatever the flags say; collapsing hides five of them unless chosen.
     /// @param hidden true collapses, false expands
     void setExpandItemsHidden(bool hidden);
 
@@ -273,9 +273,9 @@ public:
     /// @{
 
     /// Applies an operation type. For the broker types 2, 3, 7, 10 and 11, and on the tables 7 and 22, the base volumes
-    /// are refilled (after an operation is chosen without ask levels) and fall back to the target volume, and a tail
-    /// volume in shares is rounded down to lots of 100. A new operation rebuilds the price types as well. Sends 1062 or
-    /// 1063 when the price type calls for another colour, then 1244 in the client modes 100 and 101.
+    /// are refilled (without ask levels once an operation is chosen) and fall back to the target volume, and a tail
+    /// volume in shares is cut to lots of 100. A new operation rebuilds the price types as well. Sends 1062 or 1063
+    /// when the price type calls for another colour (forgetting the original price), then 1244 in client modes 100/101.
     /// @param operationType any; 21 may restrict the price types to the specified one, all others are treated alike
     ///        but -1, which means none
     void setOperationType(ttservice::EOperationType operationType);
@@ -284,7 +284,7 @@ public:
     /// Types from 4 on are algorithms with a parameter set of their own and show no cells. Sends 1062 or 1063 for those
     /// when the price type calls for another colour (and forgets the original price then), and 1244 in the client modes
     /// 100 and 101. Going back below 4 keeps the index of the parameter set until a mode button is clicked: number and
-    /// unit edits stay unheard and the price type 12 until then.
+    /// unit edits stay unheard and the price type 12 until then. Price types are rebuilt by the type that is left.
     /// @param type any; one without a button keeps the checked one
     void setOrderType(ttservice::EOrderType type);
 
@@ -322,11 +322,11 @@ public:
     /// @return true while the table is collapsed or the order type is 0
     bool bSuperPriceStartHide() const;
 
-    /// The price for amount calculations.
-    /// @param operationType -1 for none: order type 1 has no price then, unless the price type is the specified one
-    /// @param zeroIfUnset whether a specified price that was never given counts as 0.0
-    /// @return with the specified price, and in order type 1, the original price; with after-hours trading the limit
-    ///         price; kNoPrice where there is none
+    /// The price for amount calculations, in the account's money or points.
+    /// @param operationType -1 for none: order type 1 has no price then, but for the specified and the after-hours one
+    /// @param zeroIfUnset whether an original price that is kNoPrice counts as 0.0
+    /// @return with the specified price the original price, with after-hours trading the limit price, in order type 1
+    ///         with any other the original price again; kNoPrice where there is none
     double getModifiedPriceByOptTypeForCalc(ttservice::EOperationType operationType, bool zeroIfUnset) const;
 
     /// The price to place an order at.
@@ -564,9 +564,9 @@ protected:
     /// @param[in,out] labels gains the labels
     /// @param[in,out] values gains the EPriceType of each label, as ints
     /// @param flags 1 automatic order book, 4 own-side queue and counter-party price, 8 previous close, 16 book levels,
-    ///        32 ask levels, 64 bid levels; other bits select nothing
+    ///        else 32 ask levels, else 64 bid levels; other bits select nothing
     /// @param market 1 to 5, the family of the market orders; any other has none
-    /// @param apply whether the lists are loaded into the price-type cell; empty ones never are
+    /// @param apply whether the price-type cell takes the lists; never empty ones, nor a restricted operation 21's
     /// @param current not looked at
     void doResetPriceType(QStringList& labels, QVector<QVariant>& values, int flags, int market, bool apply,
                           QString current);

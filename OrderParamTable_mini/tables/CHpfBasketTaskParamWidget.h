@@ -39,8 +39,8 @@ protected:
     /// 101.
     /// @param param the task; its order type is taken as it is, without changeOrderType()
     /// @param tradeParam the task's trade-parameter text; without effect in this edition
-    /// @return a child of the dialog; null for a broker type without a table, for a task without an account, and when
-    /// the
+    /// @return a child of the dialog, which owns it; null for a broker type
+    ///         without a table, for a task without an account, and when the
     ///         host deletes the table on hearing of its operation
     CGlobalOrderParamTable* creatTable(ttservice::CCodeOrderParam param, QString tradeParam, std::string);
 

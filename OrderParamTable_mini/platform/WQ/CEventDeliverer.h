@@ -8,7 +8,7 @@ namespace WQ {
 
 /// The base of every toolkit widget that sends or receives the toolkit's numbered events.
 ///
-/// A host listens by placing a CEventDeliverer of its own among the ancestors of the widget.
+/// A host listens by placing a CEventDeliverer of its own among the ancestors of the widget. GUI thread only.
 class WQ_EXPORT CEventDeliverer
 {
 public:

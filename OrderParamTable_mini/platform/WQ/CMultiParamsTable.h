@@ -27,7 +27,7 @@ class CMultiParamsTablePrivate;
 /// value, and go back to the value, unit and check a cell was added with: with events as of a commit. Values of combos
 /// are ints or texts in a QVariant, never enumeration types, so that they compare.
 ///
-/// A missing ID answers 0, an empty text, an invalid QVariant or a null item; setting it does nothing.
+/// A missing ID answers 0, an empty text, an invalid QVariant or a null item; setting it does nothing. GUI thread only.
 class WQ_EXPORT CMultiParamsTable : public CEventWidgetT<QTableView>, public CUiResourceChangeHandler
 {
     Q_OBJECT
@@ -70,8 +70,8 @@ public:
     /// A number whose unit a person chooses. The last argument means nothing here.
     /// @param id the cell, unique within the table
     /// @param label shown at the left
-    /// @param units each with limits of its own; the first is current
-    /// @param value the first value, bounded
+    /// @param units each with limits of its own; the first is current; an empty list is one without text and limits
+    /// @param value the first value, bounded; not-a-number counts as 0
     /// @return its row; -1 when the ID exists already
     int addParamUnitCell(int id, QString label, QList<CParamCellUnitInfo> units, double value, double);
 
@@ -104,15 +104,15 @@ public:
     /// A period, as a clock range at first.
     /// @param id the cell, unique within the table
     /// @param label shown at the left
-    /// @param start its beginning; not written
-    /// @param end its end; not written
+    /// @param start its beginning, an invalid time is midnight; not written
+    /// @param end its end, an invalid time is midnight; not written
     /// @return its row; -1 when the ID exists already
     int addTimePeriod(int id, QString label, QTime& start, QTime& end);
 
     /// A line of text.
     /// @param id the cell, unique within the table
     /// @param label shown at the left
-    /// @param text with @p validated the pattern of what may be typed, else the initial text
+    /// @param text with @p validated the pattern of what may be typed (a broken one allows all), else the initial text
     /// @param validated whether there is a pattern
     /// @param second with @p validated the initial text, else the placeholder
     /// @return its row; -1 when the ID exists already
@@ -129,9 +129,9 @@ public:
 
     /// The number of a cell.
     /// @param id the cell
-    /// @return in the current unit, within its range; of a combo the value as a number; of a text cell the number that
-    /// its
-    ///         text is, else 0
+    /// @return in the current unit, within its range;
+    ///         of a combo the value as a number;
+    ///         of a text cell the number that its text is, else 0
     double itemDouble(int id) const;
 
     /// As itemDouble(), as a whole number.
@@ -181,7 +181,7 @@ public:
     /// Re-limits the current unit of a numeric cell and bounds its value.
     /// @param id the cell
     /// @param min smallest value
-    /// @param max largest value; below the minimum it follows that
+    /// @param max largest value; below the minimum it follows that. Not-a-number keeps the limit there is
     void resetCellRange(int id, double min, double max);
 
     /// Sets the number.
@@ -214,9 +214,9 @@ public:
 
     /// Sets the value from a text.
     /// @param id the cell
-    /// @param text any for a text or line cell; on a number one that is a number, on a combo one of an entry: others
-    /// are
-    ///        ignored
+    /// @param text any for a text or line cell;
+    ///        on a number one that is a number, on a combo one of an entry:
+    ///        others are ignored
     void setItemText(int id, QString text);
 
     /// Sets the label.
@@ -241,7 +241,7 @@ public:
     /// Sets the step of a unit, and touches no value.
     /// @param id the cell
     /// @param unit current or not; an unknown one is ignored
-    /// @param step in that unit
+    /// @param step in that unit; a negative or infinite one changes nothing
     void setItemTick(int id, QString unit, double step);
 
     /// @}

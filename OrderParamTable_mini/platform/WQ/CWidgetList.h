@@ -36,19 +36,19 @@ public:
 
     /// Adds a widget that grows. The last argument means nothing here.
     /// @param widget owned by the strip from now on
-    /// @param stretch its share of the room that is left
+    /// @param stretch its share of the room that is left; a negative one counts as 0
     /// @param anchor its place
-    /// @return its position; -1 for null
+    /// @return its position; -1 for null, the strip itself and its ancestors
     int addStretchWidget(QWidget* widget, int stretch, EWidgetAnchor anchor, bool);
 
     /// Adds a widget at its own size. The last argument means nothing here.
     /// @param widget owned by the strip from now on
     /// @param anchor its place
-    /// @return its position; -1 for null
+    /// @return its position; -1 for null, the strip itself and its ancestors
     int addFixedWidget(QWidget* widget, EWidgetAnchor anchor, bool);
 
     /// Adds an empty gap.
-    /// @param size pixels
+    /// @param size pixels; a negative one counts as 0
     /// @return its position
     int addFixedSpace(int size);
 

@@ -21,7 +21,7 @@ using FormatFlags = QFlags<EFormatFlag>;
 /// A number with so many decimals: the digits of QString::number(value, 'f', decimals), point "." whatever the locale,
 /// no grouping, no sign on what rounds to zero. The bool means nothing here.
 /// @param value any
-/// @param decimals 0 to 20
+/// @param decimals 0 to 20; what is outside stops at these
 /// @param flags FormatPlain
 /// @param invalidText answered for NaN, infinities and the no-price value
 /// @return the number as text
@@ -30,7 +30,7 @@ WQ_EXPORT QString formatDoubleNumber(long double value, int decimals, FormatFlag
 
 /// A whole number in plain decimal.
 /// @param value any
-/// @param width the fewest characters, filled with blanks at the left
+/// @param width the fewest characters, filled with blanks at the left; at most 4,096
 /// @param flags FormatPlain
 /// @return the number as text
 WQ_EXPORT QString formatIntNumber(int value, int width, FormatFlags flags);
