@@ -32,7 +32,6 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
 
-
 file(STRINGS debian/changelog latest_change LIMIT_COUNT 1)
 if(NOT latest_change MATCHES "^${source_name} \\(${debian_version}\\) ")
     message(FATAL_ERROR "packaging/debian/changelog does not begin with version ${debian_version}")
@@ -71,7 +70,7 @@ file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/shlibs"
     "liborderparam_reference ${PROJECT_VERSION_MAJOR} ${library_package} (>= ${PROJECT_VERSION})\n")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA
     "${CMAKE_CURRENT_BINARY_DIR}/shlibs" "${CMAKE_CURRENT_SOURCE_DIR}/debian/triggers")
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_MULTIARCH same)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_MULTIARCH same) # left out by cpack before 3.31, as the others below
 
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${library_package} (= ${debian_version}), qtbase5-dev, libboost-dev")
 set(CPACK_DEBIAN_DEV_PACKAGE_SUGGESTS "${doc_package}")

@@ -2,7 +2,7 @@
 # Installs the build into a prefix, moves the prefix, and looks at what lies there.
 . "$(dirname "$0")/packaging.sh"
 
-rm -rf "$scratch/installed" "$prefix"
+rm -rf "$scratch/installed" "$scratch/documents" "$prefix"
 mkdir -p "$scratch"
 step install cmake --install "$build" --prefix "$scratch/installed"
 mv "$scratch/installed" "$prefix"
@@ -27,13 +27,29 @@ done
 if grep -rlF "$source" "$prefix/$libdir/cmake" "$prefix/$libdir/pkgconfig"; then
     fail "these name the source tree"
 fi
+# options_in: the long options that a text names, one a line, but for the one that Qt adds to help.
+options_in() {
+    grep -o -e '--[a-z][a-z-]*' | grep -vx -e --help-all | LC_ALL=C sort -u
+}
 for program in workbench replay; do
     output=$("$prefix/bin/orderparam-$program" --version 2>&1) || fail "orderparam-$program: $output"
     [[ $output == *"orderparam-$program $version"* ]] || fail "orderparam-$program calls itself $output"
+    diff <("$prefix/bin/orderparam-$program" --help | options_in) \
+        <(gzip -cd "$prefix/share/man/man1/orderparam-$program.1.gz" | tr -d '\\' | options_in) \
+        || fail "the manual page of orderparam-$program has other options than its help"
 done
 if command -v man >/dev/null && man --warnings -l "$prefix"/share/man/man1/*.gz 2>&1 >/dev/null | grep .; then
     fail "man warns"
 fi
+
+# The documentation's component stands alone: what its pages link to comes with it.
+step documents cmake --install "$build" --prefix "$scratch/documents" --component doc
+links=0
+while IFS=: read -r page target; do
+    links=$((links + 1))
+    [[ -e $(dirname "$page")/$target ]] || fail "$page links to $target, which is not installed"
+done < <(grep -roP --include='*.md' '\]\((?!https?://|#)\K[^)#]+' "$scratch/documents")
+[[ $links -gt 50 ]] || fail "only $links links were looked at"
 
 output=$(cd "$scratch" && cpack --config "$build/CPackConfig.cmake" 2>&1) \
     && fail "packages are made of a build for another prefix"

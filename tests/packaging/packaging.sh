@@ -7,7 +7,7 @@ set -euo pipefail
 
 scratch=$1
 . "$2"
-prefix=$scratch/prefix
+prefix="$scratch/a prefix" # a blank shows what is not quoted
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
 failures=0
 
@@ -32,13 +32,14 @@ step() {
 }
 
 # built PROJECT [CMAKE-ARGUMENT...]: configures and builds a copy of PROJECT, which then knows nothing of this tree. What
-# has not changed is not built again.
+# has not changed is not built again; the package is looked for again.
 built() {
     local name
     name=$(basename "$1")
     mkdir -p "$scratch/projects"
     cp -ru "$1" "$scratch/projects/"
     step "$name-configured" cmake -S "$scratch/projects/$name" -B "$scratch/builds/$name" -G Ninja \
+        -U OrderParamTable_mini_DIR \
         -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" \
         -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Werror" "${@:2}"
     step "$name-built" cmake --build "$scratch/builds/$name"

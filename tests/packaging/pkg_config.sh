@@ -4,7 +4,9 @@
 
 export PKG_CONFIG_PATH=$prefix/$libdir/pkgconfig
 read -ra options <<< "-std=c++17 -fPIC -Wall -Wextra -Werror $flags"
-read -ra package <<< "$(pkg-config --cflags --libs OrderParamTable_mini OrderParamTable_mini-reference)"
+# With the backslashes that pkg-config puts before blanks.
+# shellcheck disable=SC2162
+read -a package <<< "$(pkg-config --cflags --libs OrderParamTable_mini OrderParamTable_mini-reference)"
 [[ $(pkg-config --print-requires OrderParamTable_mini) == Qt5Widgets ]] || fail "Qt5Widgets is not required"
 [[ $(pkg-config --modversion OrderParamTable_mini) == "$version" ]] || fail "the version is another one"
 
