@@ -3,6 +3,7 @@
 #include "reference/toolkit/Painting.h"
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
+#include "reference/toolkit/Wording.h"
 #include "reference/toolkit/cells/CellItem.h"
 #include "reference/toolkit/cells/TextFace.h"
 
@@ -209,8 +210,8 @@ void CellPainter::paintFooter(const QRect& footer, const FooterState& state)
     const QRect icon(footer.right() + 1 - m_metrics.padding - m_metrics.chevron, footer.top(), m_metrics.chevron,
                      footer.height());
     drawImage(keys::kFilterImage, color, centred(icon, m_metrics.chevron));
-    drawText(QRect(footer.topLeft(), QPoint(icon.left() - m_metrics.gap, footer.bottom())), QStringLiteral("筛选"),
-             color, ground, true);
+    drawText(QRect(footer.topLeft(), QPoint(icon.left() - m_metrics.gap, footer.bottom())), wording("筛选"), color,
+             ground, true);
     if (state.focus)
         m_grid.fillFrame(m_painter, footer, palette().accent);
 }

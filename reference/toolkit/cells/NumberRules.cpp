@@ -1,5 +1,7 @@
 #include "reference/toolkit/cells/NumberRules.h"
 
+#include "reference/toolkit/Wording.h"
+
 #include <cmath>
 #include <limits>
 
@@ -77,7 +79,7 @@ NumberUnit reachable(const NumberUnit& unit)
 
 QString inBrackets(const QString& text)
 {
-    return text.isEmpty() ? text : QStringLiteral("（%1）").arg(text);
+    return text.isEmpty() ? text : wording("（%1）").arg(text);
 }
 
 double multiple(double step, double count)
@@ -189,8 +191,8 @@ QString rangeText(const NumberUnit& unit)
     if (!hasMin && !hasMax)
         return QString();
     if (!hasMax)
-        return QStringLiteral("不小于 ") + withUnit(unit, min);
-    return hasMin ? min + QStringLiteral(" – ") + withUnit(unit, max) : QStringLiteral("不大于 ") + withUnit(unit, max);
+        return wording("不小于 %1").arg(withUnit(unit, min));
+    return hasMin ? min + QStringLiteral(" – ") + withUnit(unit, max) : wording("不大于 %1").arg(withUnit(unit, max));
 }
 
 std::optional<GridNeighbours> offGrid(const NumberUnit& unit, double value)
@@ -211,7 +213,7 @@ QString offGridText(const NumberUnit& unit, double value)
     const std::optional<GridNeighbours> neighbours = offGrid(unit, value);
     if (!neighbours)
         return QString();
-    return QStringLiteral("不是 %1 的整数倍：%2 或 %3")
+    return wording("不是 %1 的整数倍：%2 或 %3")
         .arg(groupedDigits(numberText(unit, unit.step)), groupedDigits(numberText(unit, neighbours->below)),
              groupedDigits(numberText(unit, neighbours->above)));
 }
@@ -220,7 +222,7 @@ QString boundedText(const NumberUnit& before, double value, const NumberUnit& af
 {
     const QString was = withUnit(before, groupedDigits(numberText(before, value)));
     const QString is = withUnit(after, groupedDigits(numberText(after, bounded)));
-    return QStringLiteral("%1 已调整为 %2").arg(was, is) + inBrackets(rangeText(reachable(after)));
+    return wording("%1 已调整为 %2").arg(was, is) + inBrackets(rangeText(reachable(after)));
 }
 
 Judgement judgeNumber(const NumberUnit& unit, const QString& label, const QString& typed)
@@ -232,11 +234,11 @@ Judgement judgeNumber(const NumberUnit& unit, const QString& label, const QStrin
         return judgement;
     };
     if (!number)
-        return wrong(QStringLiteral("不是数字"));
+        return wrong(wording("不是数字"));
     if (unit.isWhole() && std::trunc(*number) != *number)
-        return wrong(QStringLiteral("须为整数"));
+        return wrong(wording("须为整数"));
     if (*number < unit.min || *number > unit.max || boundedNumber(unit, *number) != *number)
-        return wrong(QStringLiteral("超出范围"));
+        return wrong(wording("超出范围"));
     judgement.ok = true;
     judgement.value = *number;
     judgement.message = offGridText(unit, *number);

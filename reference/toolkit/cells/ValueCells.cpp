@@ -1,5 +1,7 @@
 #include "reference/toolkit/cells/ValueCells.h"
 
+#include "reference/toolkit/Wording.h"
+
 #include <QRegularExpression>
 
 #include <cmath>
@@ -13,10 +15,10 @@ QString offGridTexts(const NumberUnit& unit, double low, double high)
 {
     QStringList texts;
     if (const QString text = WQ::offGridText(unit, low); !text.isEmpty())
-        texts << QStringLiteral("下限 ") + text;
+        texts << wording("下限 %1").arg(text);
     if (const QString text = WQ::offGridText(unit, high); !text.isEmpty())
-        texts << QStringLiteral("上限 ") + text;
-    return texts.join(QStringLiteral("；"));
+        texts << wording("上限 %1").arg(text);
+    return texts.join(wording("；"));
 }
 
 } // namespace
@@ -48,9 +50,9 @@ Judgement RangeCell::judge(const QString& typedLow, const QString& typedHigh) co
     Judgement higher = judgeNumber(m_unit, label(), typedHigh);
     if (higher.ok && higher.value < lower.value) {
         higher.ok = false;
-        higher.message = QStringLiteral("%1 上限不能小于下限").arg(label());
+        higher.message = label() + QLatin1Char(' ') + wording("上限不能小于下限");
         if (const QString range = rangeText(); !range.isEmpty())
-            higher.message += QStringLiteral("（%1）").arg(range);
+            higher.message += wording("（%1）").arg(range);
     } else if (higher.ok) {
         higher.message = offGridTexts(m_unit, lower.value, higher.value);
     }

@@ -12,6 +12,8 @@
 #include <QAccessible>
 #include <QContextMenuEvent>
 #include <QDirIterator>
+#include <QPaintEvent>
+#include <QRegion>
 #include <QRegularExpression>
 #include <QTranslator>
 #include <QXmlStreamReader>
@@ -39,6 +41,26 @@ public:
 
     QTranslator translator;
     bool isFound = false;
+};
+
+/// Remembers what of a widget is painted.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget& widget)
+    {
+        widget.installEventFilter(this);
+    }
+
+    QRegion painted;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
 };
 
 // Each of these makes a panel say something and answers what it says.
@@ -89,6 +111,63 @@ QString brokenLine(MenuPanel& panel)
 QString endlessLine(MenuPanel& panel)
 {
     return refusalOf(panel, Cell::Remark, QString(32768, QLatin1Char('x')));
+}
+
+QString noNumber(MenuPanel& panel)
+{
+    return refusalOf(panel, Cell::Least, QStringLiteral("12a"));
+}
+
+QString fractionOfWholeOnes(MenuPanel& panel)
+{
+    return refusalOf(panel, Cell::Least, QStringLiteral("100.5"));
+}
+
+QString beyondTheRange(MenuPanel& panel)
+{
+    return refusalOf(panel, Cell::Least, QStringLiteral("99"));
+}
+
+QString crossedRange(MenuPanel& panel)
+{
+    return refusalOf(panel, Cell::Span, QStringLiteral("300 - 200"));
+}
+
+QString offTheGrid(MenuPanel& panel)
+{
+    panel.clickValue(Cell::Least);
+    panel.type(QStringLiteral("1250"));
+    return panel.notice();
+}
+
+QString rangeOffTheGrid(MenuPanel& panel)
+{
+    panel.table->setItemTick(Cell::Span, QStringLiteral("股"), 100);
+    panel.table->setItemText(Cell::Span, QStringLiteral("150 - 275"));
+    return panel.inner().toolTipOf(panel.cell(Cell::Span));
+}
+
+QString boundedByItsUnit(MenuPanel& panel)
+{
+    panel.table->setItemUnit(Cell::Price, QStringLiteral("元"), 0, 10, 0.001, false);
+    panel.table->setItemDouble(Cell::Price, 50);
+    panel.focusRow(Cell::Price);
+    panel.press(Qt::Key_Down, Qt::AltModifier);
+    panel.press(Qt::Key_End);
+    panel.press(Qt::Key_Return);
+    return panel.notice();
+}
+
+QString rangesWithOneEnd(MenuPanel&)
+{
+    WQ::NumberUnit unit;
+    unit.min = 1;
+    unit.max = 1e300;
+    QStringList texts{WQ::rangeText(unit)};
+    unit.min = -1e300;
+    unit.max = 5;
+    texts << WQ::rangeText(unit);
+    return texts.join(QLatin1Char('|'));
 }
 
 QString lostEntry(MenuPanel& panel)
@@ -205,6 +284,29 @@ QVector<Row> rows()
         {"a text without end", endlessLine,
          QStringLiteral("投资备注 文字过长（最多 32767 个字符）"),
          QStringLiteral("投资备注 is too long (at most 32767 characters)")},
+        {"a number that is none", noNumber,
+         QStringLiteral("单笔最小量 不是数字（100 – 1,000,000 股）"),
+         QStringLiteral("单笔最小量 is not a number (100 – 1,000,000 股)")},
+        {"a fraction where whole ones are", fractionOfWholeOnes,
+         QStringLiteral("单笔最小量 须为整数（100 – 1,000,000 股）"),
+         QStringLiteral("单笔最小量 must be a whole number (100 – 1,000,000 股)")},
+        {"a number beyond its range", beyondTheRange,
+         QStringLiteral("单笔最小量 超出范围（100 – 1,000,000 股）"),
+         QStringLiteral("单笔最小量 is out of range (100 – 1,000,000 股)")},
+        {"a range that is crossed", crossedRange,
+         QStringLiteral("单笔量区间 上限不能小于下限（1 – 1,000,000 股）"),
+         QStringLiteral("单笔量区间 must not have its high end below its low end (1 – 1,000,000 股)")},
+        {"a number off its grid", offTheGrid,
+         QStringLiteral("不是 100 的整数倍：1,200 或 1,300"), QStringLiteral("not a multiple of 100: 1,200 or 1,300")},
+        {"a range off its grid", rangeOffTheGrid,
+         QStringLiteral("1 – 1,000,000 股\n下限 不是 100 的整数倍：100 或 200；上限 不是 100 的整数倍：200 或 300"),
+         QStringLiteral("1 – 1,000,000 股\nlow end not a multiple of 100: 100 or 200; "
+                        "high end not a multiple of 100: 200 or 300")},
+        {"a number that its unit bounds", boundedByItsUnit,
+         QStringLiteral("单笔超价 50.00 % 已调整为 10.000 元（0.000 – 10.000 元）"),
+         QStringLiteral("单笔超价 50.00 % adjusted to 10.000 元 (0.000 – 10.000 元)")},
+        {"a range with one end", rangesWithOneEnd,
+         QStringLiteral("不小于 1.00|不大于 5.00"), QStringLiteral("at least 1.00|at most 5.00")},
         {"an initial entry that is gone", lostEntry,
          QStringLiteral("报价方式 已没有最初的选项"), QStringLiteral("报价方式 no longer has its initial choice")},
         {"the filter to assistive programs", footerName, QStringLiteral("筛选"), QStringLiteral("Filter")},
@@ -283,6 +385,7 @@ private Q_SLOTS:
     void whatStandsOpenIsSaidAgain();
     void theMenuOfAnotherLanguageCloses();
     void theListOfTheFilterTakesItsRoom();
+    void theFooterIsPaintedAnew();
     void noTextLacksItsEnglish();
     void noEnglishTextHasChineseLeft();
     void noChineseTextIsPastTranslating();
@@ -364,6 +467,19 @@ void tst_Wording::theListOfTheFilterTakesItsRoom()
     QVERIFY(filter->rect().contains(filter->applyRect()));
 }
 
+void tst_Wording::theFooterIsPaintedAnew()
+{
+    m_panel->table->setCustomWidgetVisible(true);
+    m_panel->table->setMinimumHeight(m_panel->table->realHeight());
+    QCoreApplication::processEvents();
+    const QRect footer = m_panel->inner().footerRect();
+    const QImage chinese = m_panel->table->viewport()->grab(footer).toImage();
+    PaintWatch watch(*m_panel->table->viewport());
+    const English speaks;
+    QTRY_VERIFY(watch.painted.contains(footer));
+    QVERIFY(m_panel->table->viewport()->grab(footer).toImage() != chinese);
+}
+
 void tst_Wording::noTextLacksItsEnglish()
 {
     const QHash<QString, QString> english = englishTexts();
@@ -393,7 +509,7 @@ void tst_Wording::noChineseTextIsPastTranslating()
 {
     const QString pattern =
         QStringLiteral("QStringLiteral\\(\"([^\"]*[\\x{3000}-\\x{9FFF}\\x{FF01}-\\x{FFEF}][^\"]*)\"");
-    for (const QString& folder : {QStringLiteral("/"), QStringLiteral("/editors")})
+    for (const QString& folder : toolkitFolders())
         QCOMPARE(found(folder, pattern), QStringList());
 }
 
