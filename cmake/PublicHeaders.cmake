@@ -2,6 +2,7 @@
 set(orderparam_public_headers
     credit/CCreditParamTable.h
     frame/COrderParamBaseTable.h
+    semantics/EventNumbers.h
     semantics/OrderVocabulary.h
     tables/CBaseTaskParamWidget.h
     tables/CCodeOrderParamTable.h

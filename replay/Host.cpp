@@ -3,6 +3,9 @@
 #include "replay/Values.h"
 
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
+#include <OrderParamTable_mini/semantics/EventNumbers.h>
+
+#include <WQ/EventNumbers.h>
 
 #include <utility>
 
@@ -10,24 +13,19 @@ namespace replay {
 
 namespace {
 
-// Events whose data points at something; which type it is hangs on the number alone.
-constexpr int kComboChanged = 73;
-constexpr int kPriceDisplay = 1062;
-constexpr int kParameterSetMode = 1206;
-constexpr int kPriceTypeFromOutside = 1213;
-
+// What the data points at hangs on the number alone.
 Json dataOf(int event, const void* payload, const WidgetNames& nameOf)
 {
     if (!payload)
         return nullptr;
     switch (event) {
-    case kComboChanged:
+    case WQ::events::kEntryChosen:
         return {{"variant", written(*static_cast<const QVariant*>(payload))}};
-    case kPriceDisplay:
+    case TC::events::kPriceDisplay:
         return {{"double", written(*static_cast<const double*>(payload))}};
-    case kParameterSetMode:
+    case TC::events::kOperationToBeChosen:
         return {{"widget", written(nameOf(static_cast<const TC::COrderParamBaseTable*>(payload)))}};
-    case kPriceTypeFromOutside:
+    case TC::events::kPriceTypeFromOutside:
         return {{"int", *static_cast<const int*>(payload)}};
     default:
         return nullptr;

@@ -5,12 +5,16 @@
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
 
+#include <WQ/EventNumbers.h>
+
 #include <cmath>
 #include <iterator>
 
 namespace replay {
 
 namespace {
+
+namespace events = WQ::events;
 
 using WQ::CellItem;
 using WQ::CellKind;
@@ -122,15 +126,15 @@ struct CellDeed
 
 // clang-format off
 constexpr CellDeed kCellDeeds[] = {
-    { 73, CellKind::Combo,       choice},
-    { 87, CellKind::Number,      number},
-    { 87, CellKind::CheckNumber, number},
-    { 87, CellKind::Range,       range},
-    { 87, CellKind::Text,        text},
-    {101, CellKind::TimePeriod,  period},
-    {102, CellKind::Line,        text},
-    {118, CellKind::Number,      unit},
-    {118, CellKind::CheckNumber, unitOrCheck},
+    {events::kEntryChosen,          CellKind::Combo,       choice},
+    {events::kNumberCommitted,      CellKind::Number,      number},
+    {events::kNumberCommitted,      CellKind::CheckNumber, number},
+    {events::kNumberCommitted,      CellKind::Range,       range},
+    {events::kNumberCommitted,      CellKind::Text,        text},
+    {events::kPeriodCommitted,      CellKind::TimePeriod,  period},
+    {events::kLineCommitted,        CellKind::Line,        text},
+    {events::kUnitOrCheckChanged,   CellKind::Number,      unit},
+    {events::kUnitOrCheckChanged,   CellKind::CheckNumber, unitOrCheck},
 };
 // clang-format on
 
@@ -152,14 +156,14 @@ struct EventDeed
 
 // clang-format off
 constexpr EventDeed kEventDeeds[] = {
-    {  5, click},
-    { 73, edit},
-    { 87, edit},
-    {101, edit},
-    {102, edit},
-    {118, edit},
-    {124, filter},
-    {248, filterReset},
+    {events::kButtonClicked,        click},
+    {events::kEntryChosen,          edit},
+    {events::kNumberCommitted,      edit},
+    {events::kPeriodCommitted,      edit},
+    {events::kLineCommitted,        edit},
+    {events::kUnitOrCheckChanged,   edit},
+    {events::kFilterApplied,        filter},
+    {events::kFilterReset,          filterReset},
 };
 // clang-format on
 

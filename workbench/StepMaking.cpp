@@ -7,6 +7,7 @@
 
 #include <TC/CTimeService.h>
 #include <WQ/CMultiParamsTable.h>
+#include <WQ/EventNumbers.h>
 
 #include <ctime>
 #include <set>
@@ -14,12 +15,6 @@
 namespace workbench {
 
 using replay::Json;
-
-namespace {
-
-constexpr int kDoubleClicked = 97;
-
-} // namespace
 
 std::shared_ptr<RecordedStep> answeredStep(Json command)
 {
@@ -47,7 +42,7 @@ Json clockCommand()
 Json commandOf(const QWidget& sender, const WQ::PersonEvent& event, const RecordedObject& object)
 {
     const auto* cells = qobject_cast<const WQ::CMultiParamsTable*>(&sender);
-    if (event.event != kDoubleClicked || !object.widget || object.widget->isWindow())
+    if (event.event != WQ::events::kDoubleClicked || !object.widget || object.widget->isWindow())
         return replay::personCommand(object.name, event, cells);
     Json command = {{"do", "event"}, {"on", object.name}};
     command["args"] = Json::array({event.event, event.a, event.b, replay::written(event.text)});

@@ -6,6 +6,7 @@
 
 #include <WQ/CMultiParamsTable.h>
 #include <WQ/CUiResource.h>
+#include <WQ/EventNumbers.h>
 
 #include <QResizeEvent>
 
@@ -124,7 +125,7 @@ void CCreditParamTable::setCompactBrushSourceType(ttservice::ENVCompactBrushSour
 
 bool CCreditParamTable::handleEvent(int event, int id, int value, QString text, void* payload)
 {
-    if (event == 73 && id == CR_Account) {
+    if (event == WQ::events::kEntryChosen && id == CR_Account) {
         m_useAllCompacts = true;
         refreshAvailableNum(getCurrentCode(), true, std::string());
     }

@@ -7,6 +7,7 @@
 #include <TC/CAccountData.h>
 #include <TC/DataCenter.h>
 #include <WQ/CMultiParamsTable.h>
+#include <WQ/EventNumbers.h>
 #include <WQ/Formatting.h>
 #include <ttservice/CAccountInfoV2.h>
 
@@ -60,7 +61,7 @@ void CCreditParamTable::setSelectAccount(const std::string& accountId)
 bool CCreditParamTable::sendAccount(int value, const QVariant& account)
 {
     QVariant sent = account;
-    return sendAndStayAlive(73, value, &sent);
+    return sendAndStayAlive(WQ::events::kEntryChosen, value, &sent);
 }
 
 bool CCreditParamTable::sendAndStayAlive(int event, int value, void* payload)

@@ -4,6 +4,7 @@
 #include <OrderParamTable_mini/credit/CreditLayout.h>
 #include <OrderParamTable_mini/credit/CreditParameterString.h>
 #include <OrderParamTable_mini/frame/HeldException.h>
+#include <OrderParamTable_mini/semantics/EventNumbers.h>
 
 #include <WQ/CMultiParamsTable.h>
 
@@ -35,7 +36,7 @@ void CCreditParamTable::refreshUIData()
     const bool isRemembered = m_savedValues.contains(m_operationType);
     if (m_savedValues.value(m_operationType).value(CR_Contract).toString().isEmpty()) {
         setTexts({CR_Contract, CR_Unrepaid, CR_RepayableToday, CR_Funds, CR_Repayable}, noText());
-        if (!sendAndStayAlive(1083, 0, nullptr))
+        if (!sendAndStayAlive(events::kContractCodeEmptied, 0, nullptr))
             return;
     }
     layRowsOut();
@@ -89,7 +90,7 @@ void CCreditParamTable::fixCodeChanged(const QString& code)
     if (!code.isEmpty())
         return;
     setFixCodeText(code, false, false, std::string());
-    sendAndStayAlive(1083, 0, nullptr);
+    sendAndStayAlive(events::kContractCodeEmptied, 0, nullptr);
 }
 
 // Every operation counts the funds row in shares here; laying the rows out gives each its own unit.

@@ -1,6 +1,7 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
 #include <OrderParamTable_mini/frame/Services.h>
+#include <OrderParamTable_mini/semantics/EventNumbers.h>
 #include <OrderParamTable_mini/semantics/OrderModes.h>
 
 #include <WQ/CDropDownButtonGroup.h>
@@ -42,7 +43,7 @@ void COrderParamBaseTable::resetBtnType()
 void COrderParamBaseTable::setAlgoBtnVisible()
 {
     if (isAlgorithmClient())
-        send(1244, m_orderType, 0, QString::fromLatin1(""));
+        send(events::kAlgorithmButtons, m_orderType, 0, QString::fromLatin1(""));
 }
 
 bool COrderParamBaseTable::showAlgo()

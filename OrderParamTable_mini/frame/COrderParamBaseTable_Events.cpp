@@ -1,10 +1,12 @@
 #include <OrderParamTable_mini/frame/COrderParamBaseTable.h>
 
 #include <OrderParamTable_mini/frame/HeldException.h>
+#include <OrderParamTable_mini/semantics/EventNumbers.h>
 #include <OrderParamTable_mini/semantics/OrderModes.h>
 
 #include <WQ/CDropDownButtonGroup.h>
 #include <WQ/CMultiParamsTable.h>
+#include <WQ/EventNumbers.h>
 
 #include <QPointer>
 
@@ -80,7 +82,7 @@ bool COrderParamBaseTable::reloadAndStayAlive()
 
 bool COrderParamBaseTable::announceChange(const QString& text)
 {
-    return saveAndStayAlive() && send(129, m_id, 0, text);
+    return saveAndStayAlive() && send(events::kParametersChanged, m_id, 0, text);
 }
 
 bool COrderParamBaseTable::recolourPriceDisplay()
@@ -94,36 +96,36 @@ bool COrderParamBaseTable::handleEvent(int event, int a, int b, QString text, vo
 {
     const HeldException held;
     switch (event) {
-    case 5:
+    case WQ::events::kButtonClicked:
         if (onButtonClicked(a, text))
             return true;
         break;
-    case 73:
+    case WQ::events::kEntryChosen:
         onCellChanged(a, text, payload);
         return false;
-    case 87:
-    case 118:
+    case WQ::events::kNumberCommitted:
+    case WQ::events::kUnitOrCheckChanged:
         onNumberChanged(a, text);
         return false;
-    case 97:
-        send(130, m_id, 0, text);
+    case WQ::events::kDoubleClicked:
+        send(events::kParameterDoubleClicked, m_id, 0, text);
         return true;
-    case 101:
-    case 102:
+    case WQ::events::kPeriodCommitted:
+    case WQ::events::kLineCommitted:
         onTextChanged();
         return false;
-    case 124:
+    case WQ::events::kFilterApplied:
         onFilterApplied();
         return false;
-    case 248:
+    case WQ::events::kFilterReset:
         onFilterReset();
         return true;
-    case 249:
+    case events::kKept:
         return true;
-    case 1071:
+    case WQ::events::kNeededHeightChanged:
         resetLayout(size());
         return false;
-    case 1213:
+    case events::kPriceTypeFromOutside:
         onPriceTypeFromOutside(text, payload);
         return true;
     }
@@ -137,7 +139,8 @@ bool COrderParamBaseTable::onButtonClicked(int buttonId, const QString& text)
         return false;
     const auto type = EOrderType(buttonId - kModeButtonBase);
     const bool plain = kind == ButtonKind::PlainMode;
-    if (!(plain ? enterPlainMode(type) : enterParameterSetMode(type)) || !send(1064, m_id, m_orderType, text))
+    if (!(plain ? enterPlainMode(type) : enterParameterSetMode(type))
+        || !send(events::kOrderTypeChosen, m_id, m_orderType, text))
         return true;
     if (!(plain || reloadParameterSet()) || !announceMode(text))
         return true;
@@ -201,14 +204,14 @@ bool COrderParamBaseTable::announceMode(const QString& text)
     const bool isSet = isParameterSetMode();
     const EPriceType priceType = isSet ? m_paramPriceType : m_priceType;
     const bool isAnnounced = isSet || priceType != PRTP_NONE;
-    if (isAnnounced && !send(1061, m_id, priceType, text))
+    if (isAnnounced && !send(events::kPriceTypeApplied, m_id, priceType, text))
         return false;
-    return recolourPriceDisplay() && (!m_ready || send(129, m_id, 0, text));
+    return recolourPriceDisplay() && (!m_ready || send(events::kParametersChanged, m_id, 0, text));
 }
 
 bool COrderParamBaseTable::announceWithoutOperation(const QString& text)
 {
-    return isOperationChosen(m_operationType) || send(1206, 0, 0, text, this);
+    return isOperationChosen(m_operationType) || send(events::kOperationToBeChosen, 0, 0, text, this);
 }
 
 void COrderParamBaseTable::updateHelp(bool plain)
@@ -242,7 +245,7 @@ void COrderParamBaseTable::onCellChanged(int cellId, const QString& text, const 
     if (!saveAndStayAlive())
         return;
     fitTableHeight();
-    send(129, m_id, 0, text);
+    send(events::kParametersChanged, m_id, 0, text);
 }
 
 void COrderParamBaseTable::onNumberChanged(int cellId, const QString& text)

@@ -3,6 +3,7 @@
 #include <OrderParamTable_mini/frame/CellUnits.h>
 #include <OrderParamTable_mini/frame/HeldException.h>
 #include <OrderParamTable_mini/semantics/CellMasks.h>
+#include <OrderParamTable_mini/semantics/EventNumbers.h>
 #include <OrderParamTable_mini/semantics/PriceAdjustment.h>
 
 #include <WQ/CCheckParamUnitCellDelegate.h>
@@ -20,7 +21,7 @@ void COrderParamBaseTable::setFixedPrice(double price)
     m_table->setComboData(OCF_PriceType, int(PRTP_FIX));
     updateCurrentPriceTypeName();
     resetTableByPriceType();
-    if (!send(1061, m_id, PRTP_FIX, QString::fromLatin1("")))
+    if (!send(events::kPriceTypeApplied, m_id, PRTP_FIX, QString::fromLatin1("")))
         return;
     m_originalPrice = price;
     resetSuperPriceShow();
@@ -40,7 +41,7 @@ void COrderParamBaseTable::setPriceImpl(double price, QString text)
     if (m_priceType == PRTP_FIX)
         return;
     m_originalPrice = price;
-    send(1062, m_id, 0, text, &m_originalPrice);
+    send(events::kPriceDisplay, m_id, 0, text, &m_originalPrice);
 }
 
 void COrderParamBaseTable::resetShowFixPrice()

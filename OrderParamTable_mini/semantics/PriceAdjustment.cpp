@@ -1,5 +1,6 @@
 #include <OrderParamTable_mini/semantics/PriceAdjustment.h>
 
+#include <OrderParamTable_mini/semantics/EventNumbers.h>
 #include <OrderParamTable_mini/semantics/IntSet.h>
 
 #include <cmath>
@@ -14,8 +15,6 @@ namespace {
 constexpr IntSet kMarketPriceTypes {12, 18, 19, 20, 21, 22, 23, 24, 42, 43, 44, 45, 46, 47, 48};
 // clang-format on
 
-constexpr int kQuotedPriceEvent = 1062;
-constexpr int kFixedPriceEvent = 1063;
 constexpr double kLargestPercent = 100.0;
 constexpr double kLargestMoney = 1000000.0;
 constexpr double kFluctuationFactor = 2.0;
@@ -63,9 +62,9 @@ SuperPriceRange moneyRange(OperationCellFlags flags)
 PriceDisplayEvent priceDisplayEvent(EPriceType type)
 {
     if (kMarketPriceTypes.contains(type))
-        return {kQuotedPriceEvent, "clr_global_text"};
+        return {events::kPriceDisplay, "clr_global_text"};
     if (type == PRTP_AFTER_HOURS_FIX)
-        return {kFixedPriceEvent, "clr_disabled_widget_text"};
+        return {events::kPriceDisplayAfterHours, "clr_disabled_widget_text"};
     return {};
 }
 

@@ -7,6 +7,7 @@
 #include <OrderParamTable_mini/tables/TaskTables.h>
 
 #include <WQ/CPushButton.h>
+#include <WQ/EventNumbers.h>
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -95,7 +96,7 @@ void CBaseTaskParamWidget::createFacts(const CCodeOrderParam& param, QBoxLayout*
 
 bool CBaseTaskParamWidget::handleEvent(int event, int a, int b, QString text, void* payload)
 {
-    if (event != 5)
+    if (event != WQ::events::kButtonClicked)
         return WQ::CBaseDialog::handleEvent(event, a, b, text, payload);
     m_expanded = !m_expanded;
     if (m_expandButton)

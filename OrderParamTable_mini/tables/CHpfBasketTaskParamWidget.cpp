@@ -4,6 +4,8 @@
 #include <OrderParamTable_mini/tables/CGlobalOrderParamTable.h>
 #include <OrderParamTable_mini/tables/TaskTables.h>
 
+#include <WQ/EventNumbers.h>
+
 #include <QBoxLayout>
 
 namespace TC {
@@ -54,7 +56,7 @@ void CHpfBasketTaskParamWidget::reloadWidget(bool second)
 
 bool CHpfBasketTaskParamWidget::handleEvent(int event, int a, int b, QString text, void* payload)
 {
-    if (event != 5)
+    if (event != WQ::events::kButtonClicked)
         return WQ::CBaseDialog::handleEvent(event, a, b, text, payload);
     reloadWidget(m_flag);
     m_flag = !m_flag;

@@ -1,6 +1,9 @@
 // The table of a credit repayment: its state goes in and comes out as one parameter string, and the host hears when the
 // account or the contract changes. With --quit it ends at once, for a machine without a person.
 #include <OrderParamTable_mini/credit/CCreditParamTable.h>
+#include <OrderParamTable_mini/semantics/EventNumbers.h>
+
+#include <WQ/EventNumbers.h>
 
 #include <QApplication>
 #include <QTextStream>
@@ -9,8 +12,6 @@
 
 namespace {
 
-constexpr int kAccountChosen = 73;
-constexpr int kNoContract = 1083;
 constexpr int kCreditTable = 725; // the ID that the table reports under
 
 class RepaymentHost : public WQ::CEventWidgetT<QWidget>
@@ -32,9 +33,9 @@ protected:
     bool handleEvent(int event, int id, int, QString, void* payload) override
     {
         QTextStream out(stdout);
-        if (id == kCreditTable && event == kAccountChosen)
+        if (id == kCreditTable && event == WQ::events::kEntryChosen)
             out << "account: " << static_cast<const QVariant*>(payload)->toString() << '\n'; // ours until we return
-        else if (id == kCreditTable && event == kNoContract)
+        else if (id == kCreditTable && event == TC::events::kContractCodeEmptied)
             out << "no contract\n";
         return false;
     }

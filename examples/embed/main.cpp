@@ -1,5 +1,6 @@
 // The smallest host: one table, one listener that writes the parameter string whenever the parameters change. With
 // --quit it ends at once, for a machine without a person.
+#include <OrderParamTable_mini/semantics/EventNumbers.h>
 #include <OrderParamTable_mini/tables/CGlobalOrderParamTable.h>
 
 #include <QApplication>
@@ -8,8 +9,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-constexpr int kParametersChanged = 129;
 
 /// Events climb the parent widgets: whoever listens is an ancestor of the table.
 class OrderHost : public WQ::CEventWidgetT<QWidget>
@@ -36,7 +35,7 @@ public:
 protected:
     bool handleEvent(int event, int, int, QString, void*) override
     {
-        if (event == kParametersChanged)
+        if (event == TC::events::kParametersChanged)
             QTextStream(stdout) << m_table->orderSetting2Param(m_table->getOrderSettings(m_table->orderType())) << '\n';
         return false;
     }

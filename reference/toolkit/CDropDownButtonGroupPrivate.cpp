@@ -8,6 +8,8 @@
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
+#include <WQ/EventNumbers.h>
+
 #include <QButtonGroup>
 
 #include <algorithm>
@@ -16,7 +18,6 @@ namespace WQ {
 
 namespace {
 
-constexpr int kClicked = 5;
 constexpr int kHelpId = 0;
 
 bool isPlaced(const GroupEntry& entry)
@@ -63,7 +64,7 @@ void CDropDownButtonGroupPrivate::makeHelp()
         button.setAccessibleDescription(button.hasDot() ? CDropDownButtonGroup::tr("有重要提示") : QString());
     });
     QObject::connect(help, &QAbstractButton::clicked, group,
-                     [this] { postPersonEvent(group, *group, kClicked, kHelpId, 0, QString()); });
+                     [this] { postPersonEvent(group, *group, events::kButtonClicked, kHelpId, 0, QString()); });
     takeFocusAfter(dropDown ? static_cast<QWidget*>(dropDown) : group, help);
 }
 

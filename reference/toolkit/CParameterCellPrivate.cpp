@@ -6,6 +6,8 @@
 #include "reference/toolkit/ThemeKeys.h"
 #include "reference/toolkit/cells/NumberRules.h"
 
+#include <WQ/EventNumbers.h>
+
 #include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
@@ -14,13 +16,6 @@
 #include <limits>
 
 namespace WQ {
-
-namespace {
-
-constexpr int kNumberCommitted = 87;
-constexpr int kTextCommitted = 102;
-
-} // namespace
 
 CParameterCellPrivate::CParameterCellPrivate(CParameterCell* owner, int cellId, QString labelText, QString unitText)
     : cell(owner)
@@ -213,7 +208,7 @@ void CParameterCellPrivate::commit(const QString& typed)
     if (after == before)
         return;
     set(typedValue ? Holds::Double : Holds::Text, typedValue.value_or(0), typed);
-    postPersonEvent(cell, *cell, typedValue ? kNumberCommitted : kTextCommitted, id, 0, plainText());
+    postPersonEvent(cell, *cell, typedValue ? events::kNumberCommitted : events::kLineCommitted, id, 0, plainText());
 }
 
 bool CParameterCellPrivate::keyPressed(const QKeyEvent& event)

@@ -5,6 +5,8 @@
 #include "reference/toolkit/Resources.h"
 #include "reference/toolkit/ThemeKeys.h"
 
+#include <WQ/EventNumbers.h>
+
 #include <QHash>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -17,8 +19,6 @@
 namespace WQ {
 
 namespace {
-
-constexpr int kClicked = 5;
 
 // Where a button's colours stand in its two lists of four keys.
 enum class Look : size_t { Normal, Hover, Checked, Disabled };
@@ -110,7 +110,7 @@ void CPushButtonPrivate::setUp()
     button->setFlat(true);
     button->setFocusPolicy(Qt::StrongFocus);
     QObject::connect(button, &QAbstractButton::clicked, button,
-                     [this] { postPersonEvent(button, *button, kClicked, id, 0, button->text()); });
+                     [this] { postPersonEvent(button, *button, events::kButtonClicked, id, 0, button->text()); });
 }
 
 Look CPushButtonPrivate::look() const

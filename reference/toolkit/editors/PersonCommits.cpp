@@ -5,35 +5,26 @@
 #include "reference/toolkit/editors/CellFlash.h"
 #include "reference/toolkit/editors/InitialValue.h"
 
+#include <WQ/EventNumbers.h>
+
 namespace WQ::commits {
 
 namespace {
 
-enum CellEvent : int {
-    ComboChanged = 73,
-    NumberCommitted = 87,
-    DoubleClicked = 97,
-    PeriodCommitted = 101,
-    LineCommitted = 102,
-    UnitOrCheckChanged = 118,
-    FilterApplied = 124,
-    FilterReset = 248,
-};
-
 struct DraftEvent
 {
     CellKind kind;
-    CellEvent event;
+    int event;
 };
 
 // clang-format off
 constexpr DraftEvent kDraftEvents[] = {
-    {CellKind::Number,      NumberCommitted},
-    {CellKind::CheckNumber, NumberCommitted},
-    {CellKind::Range,       NumberCommitted},
-    {CellKind::TimePeriod,  PeriodCommitted},
-    {CellKind::Line,        LineCommitted},
-    {CellKind::Text,        NumberCommitted}, // hosts add it as a numeric cell and listen to it as one
+    {CellKind::Number,      events::kNumberCommitted},
+    {CellKind::CheckNumber, events::kNumberCommitted},
+    {CellKind::Range,       events::kNumberCommitted},
+    {CellKind::TimePeriod,  events::kPeriodCommitted},
+    {CellKind::Line,        events::kLineCommitted},
+    {CellKind::Text,        events::kNumberCommitted}, // hosts add it as a numeric cell and listen to it as one
 };
 // clang-format on
 
@@ -42,7 +33,7 @@ CellModel& modelOf(CMultiParamsTable& table)
     return CMultiParamsTablePrivate::of(&table)->model();
 }
 
-void post(CMultiParamsTable& table, CellEvent event, int cell, int b, const QString& text)
+void post(CMultiParamsTable& table, int event, int cell, int b, const QString& text)
 {
     postPersonEvent(&table, table, event, cell, b, text);
 }
@@ -74,7 +65,7 @@ void entry(CMultiParamsTable& table, ComboCell& cell, int index)
     if (index < 0 || index >= cell.count() || !cell.setCurrentIndex(index))
         return;
     modelOf(table).touch(&cell);
-    postPersonEvent(&table, table, ComboChanged, cell.id(), index, cell.text(), cell.data(), true);
+    postPersonEvent(&table, table, events::kEntryChosen, cell.id(), index, cell.text(), cell.data(), true);
 }
 
 void unit(CMultiParamsTable& table, NumberCell& cell, int index)
@@ -84,7 +75,7 @@ void unit(CMultiParamsTable& table, NumberCell& cell, int index)
         return;
     modelOf(table).touch(&cell);
     change.tell();
-    post(table, UnitOrCheckChanged, cell.id(), 0, cell.unit());
+    post(table, events::kUnitOrCheckChanged, cell.id(), 0, cell.unit());
 }
 
 void check(CMultiParamsTable& table, CellItem& cell, bool checked)
@@ -92,7 +83,7 @@ void check(CMultiParamsTable& table, CellItem& cell, bool checked)
     if (!cell.setChecked(checked))
         return;
     modelOf(table).touch(&cell);
-    post(table, UnitOrCheckChanged, cell.id(), checked ? 1 : 0, cell.checkText());
+    post(table, events::kUnitOrCheckChanged, cell.id(), checked ? 1 : 0, cell.checkText());
 }
 
 // The number that the unit leaves on the way is nobody's, so nothing is said of it.
@@ -101,7 +92,7 @@ void initial(CMultiParamsTable& table, CellItem& cell)
     const InitialValue initial = initialOf(cell);
     if (hasUnits(cell) && static_cast<NumberCell&>(cell).setCurrentUnit(0)) {
         modelOf(table).touch(&cell);
-        post(table, UnitOrCheckChanged, cell.id(), 0, cell.unit());
+        post(table, events::kUnitOrCheckChanged, cell.id(), 0, cell.unit());
     }
     check(table, cell, initial.checked);
     if (cell.kind() == CellKind::Combo) {
@@ -114,7 +105,7 @@ void initial(CMultiParamsTable& table, CellItem& cell)
 
 void doubleClick(CMultiParamsTable& table, const CellItem& cell)
 {
-    post(table, DoubleClicked, cell.id(), 0, cell.text());
+    post(table, events::kDoubleClicked, cell.id(), 0, cell.text());
 }
 
 void filter(CMultiParamsTable& table, const QSet<int>& ticked)
@@ -126,13 +117,13 @@ void filter(CMultiParamsTable& table, const QSet<int>& ticked)
             model.touchRows();
     }
     model.setVisibleSet(ticked);
-    post(table, FilterApplied, 0, 0, QString());
+    post(table, events::kFilterApplied, 0, 0, QString());
 }
 
 void filterReset(CMultiParamsTable& table)
 {
     modelOf(table).setVisibleSet(QSet<int>());
-    post(table, FilterReset, 0, 0, QString());
+    post(table, events::kFilterReset, 0, 0, QString());
 }
 
 } // namespace WQ::commits
