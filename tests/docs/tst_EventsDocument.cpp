@@ -11,16 +11,19 @@ namespace {
 
 const QString kPage = QStringLiteral("docs/events.md");
 
-QSet<int> numbersInHeaders()
+/// The names that the headers give, by number.
+QMap<int, QString> namesInHeaders()
 {
-    static const QRegularExpression named(QStringLiteral("\\bconstexpr int k\\w+ = (\\d+);"));
-    QSet<int> numbers;
+    static const QRegularExpression named(QStringLiteral("\\bconstexpr int (k\\w+) = (\\d+);"));
+    QMap<int, QString> names;
     for (const QString& file :
          documents::files(QStringLiteral("OrderParamTable_mini"), {QStringLiteral("EventNumbers.h")})) {
-        for (auto match = named.globalMatch(documents::text(file)); match.hasNext();)
-            numbers.insert(match.next().captured(1).toInt());
+        for (auto at = named.globalMatch(documents::text(file)); at.hasNext();) {
+            const QRegularExpressionMatch match = at.next();
+            names.insert(match.captured(2).toInt(), match.captured(1));
+        }
     }
-    return numbers;
+    return names;
 }
 
 /// Numbers that sources spell where an event has its name.
@@ -61,20 +64,24 @@ class tst_EventsDocument : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void thePageAndTheHeadersHaveTheSameNumbers();
+    void thePageAndTheHeadersHaveTheSameNumbersAndNames();
     void sourcesCallEventsByTheirNames();
     void theOrdersNameEventsOfTheTables();
     void theWorkbenchNamesEveryEventOfThePage();
 };
 
-void tst_EventsDocument::thePageAndTheHeadersHaveTheSameNumbers()
+void tst_EventsDocument::thePageAndTheHeadersHaveTheSameNumbersAndNames()
 {
+    const QMap<int, QString> names = namesInHeaders();
     QSet<int> onPage;
     for (const QStringList& row : rowsUnder("## What a host hears") + rowsUnder("## What a host may send")) {
         QCOMPARE(row.size(), 7);
-        onPage.insert(row.constFirst().toInt());
+        const int event = row.constFirst().toInt();
+        onPage.insert(event);
+        QCOMPARE(row.at(1).section(QLatin1Char(' '), -1), names.value(event));
     }
-    QCOMPARE(ascending(onPage), ascending(numbersInHeaders()));
+    const QList<int> numbers = names.keys();
+    QCOMPARE(ascending(onPage), ascending(QSet<int>(numbers.begin(), numbers.end())));
 }
 
 void tst_EventsDocument::sourcesCallEventsByTheirNames()
