@@ -15,19 +15,19 @@
 #include <vector>
 
 /// What a program that hosts the reference services says to them. Nothing is read from disk before a load call. GUI
-/// thread only.
+/// thread only. Tables ask when they next need to know; the hint alone is told to them.
 namespace reference {
 
 /// As after the start: client mode 0, all modules off, system clock, no accounts, no configuration file watched,
 /// no error said yet.
 WQ_EXPORT void resetServices();
 
-WQ_EXPORT void setClientMode(int mode);
+WQ_EXPORT void setClientMode(int mode); ///< Any integer; it says which modes show algorithm buttons of their own.
 
-/// Feature modules are named "group/module"; exactly these are on afterwards.
+/// Feature modules are named "group/module", which is not checked; exactly these are on afterwards.
 WQ_EXPORT void setModules(const QSet<QString>& on);
-WQ_EXPORT void setModule(const QString& module, bool on);
-WQ_EXPORT QSet<QString> modules();
+WQ_EXPORT void setModule(const QString& module, bool on); ///< The others stay as they are.
+WQ_EXPORT QSet<QString> modules();                        ///< Those that are on.
 
 /// The user configuration emits its algorithm-hint signal.
 WQ_EXPORT void emitAlgorithmHint(int orderType, bool hint);
@@ -40,7 +40,7 @@ WQ_EXPORT std::optional<qint64> frozenClock();
 
 /// Adds or replaces an account. Pointers that were handed out keep the account as it was.
 WQ_EXPORT void addAccount(const std::string& key, const ttservice::CAccountInfoV2& account);
-WQ_EXPORT void clearAccounts();
+WQ_EXPORT void clearAccounts(); ///< Pointers that were handed out stay good.
 /// The keys of all accounts, ascending.
 WQ_EXPORT std::vector<std::string> accountKeys();
 
