@@ -21,7 +21,6 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QFile>
 #include <QSet>
 #include <QSignalBlocker>
 
@@ -206,9 +205,8 @@ Json MainWindow::collectState()
 
 SavedLook savedLook()
 {
-    QFile file(StateFile::usualPath());
-    const bool isOpen = file.open(QIODevice::ReadOnly);
-    const Json look = objectIn(readState(isOpen ? file.readAll() : QByteArray()).state, "look");
+    const QByteArray bytes = stateBytes(StateFile::usualPath()).value_or(QByteArray());
+    const Json look = objectIn(readState(bytes).state, "look");
     return {textIn(look, "theme"), numberIn(look, "scale", 1.0), textIn(look, "language")};
 }
 

@@ -14,6 +14,7 @@
 #include <cmath>
 #include <cstdio>
 #include <limits>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -44,12 +45,28 @@ QString targetOf(const QString& path)
     return target.isEmpty() ? path : target;
 }
 
+/// A disk that is full takes a part first, and says why only when it is asked to take the rest.
+bool writeAll(int file, const QByteArray& bytes)
+{
+    ssize_t written = 0;
+    for (qint64 done = 0; done < bytes.size(); done += written) {
+        written = ::write(file, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
+        if (written < 0 && errno == EINTR)
+            written = 0;
+        else if (written <= 0)
+            return false;
+    }
+    return true;
+}
+
 /// Puts @p bytes in the place of the file in one step; answers what went wrong.
 QString replaceFile(const QString& path, const QByteArray& bytes)
 {
     QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
-    if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
+    if (!file.open())
         return file.errorString();
+    if (!writeAll(file.handle(), bytes))
+        return qt_error_string(errno);
     if (std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) != 0)
         return qt_error_string(errno);
     file.setAutoRemove(false);
@@ -57,6 +74,14 @@ QString replaceFile(const QString& path, const QByteArray& bytes)
 }
 
 } // namespace
+
+std::optional<QByteArray> stateBytes(const QString& path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return file.read(kLargestFile + 1);
+}
 
 StateReading readState(const QByteArray& bytes)
 {
@@ -97,15 +122,16 @@ QString StateFile::usualPath()
 
 Json StateFile::load()
 {
-    QFile file(m_path);
-    if (!file.exists())
+    const QFileInfo place(m_path);
+    if (!place.exists() && !place.isSymLink())
         return Json::object();
-    if (!file.open(QIODevice::ReadOnly)) {
-        say(translated(QT_TRANSLATE_NOOP("workbench", "The state of the last run, %1, cannot be read.")).arg(m_path));
+    const std::optional<QByteArray> bytes = stateBytes(m_path);
+    if (!bytes) {
+        setAside(QT_TRANSLATE_NOOP("workbench", "The state of the last run cannot be read and is set aside as %1."),
+                 false);
         return Json::object();
     }
-    StateReading reading = readState(file.read(kLargestFile + 1));
-    file.close();
+    StateReading reading = readState(*bytes);
     if (reading.fault == StateFault::Damaged)
         setAside(QT_TRANSLATE_NOOP("workbench", "The state of the last run was damaged and is set aside as %1."),
                  false);

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QThreadPool>
 
+#include <optional>
+
 namespace workbench {
 
 using Json = replay::Json;
@@ -24,6 +26,10 @@ struct StateReading
     StateFault fault = StateFault::None;
 };
 
+/// The bytes of a state file, of one that is too large the first of them; nothing where no file is that can be read.
+/// What never ends or waits for a writer, as a device or a pipe, is no file.
+std::optional<QByteArray> stateBytes(const QString& path);
+
 /// Reads the bytes of a state file. Any bytes may be handed in.
 StateReading readState(const QByteArray& bytes);
 
@@ -37,7 +43,8 @@ class StateFile
 public:
     explicit StateFile(QString path);
 
-    /// The kept state, empty without a file. A damaged file is moved aside, one of a later version is copied.
+    /// The kept state, empty without a file. What is damaged or cannot be read is moved aside, a file
+    /// of a later version is copied.
     Json load();
 
     /// Replaces the file when the state is another one than last time.

@@ -15,6 +15,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdio>
 #include <ctime>
 #include <optional>
@@ -108,6 +109,8 @@ int main(int argc, char** argv)
 {
     QElapsedTimer sinceStart;
     sinceStart.start();
+    // Beyond a limit on the size of files a write is answered as on a full disk, and does not end the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     workbench::ensureRuntimeDirectory();
     QStringList arguments;
     for (int i = 1; i < argc; ++i)

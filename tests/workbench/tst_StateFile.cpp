@@ -4,6 +4,13 @@
 #include <QFile>
 #include <QtTest>
 
+#include <cerrno>
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace workbench;
 
 namespace {
@@ -26,7 +33,36 @@ QStringList filesLike(const QTemporaryDir& folder, const QString& pattern)
     return QDir(folder.path()).entryList({pattern}, QDir::Files);
 }
 
+/// Puts something that is no file in the place of a path; 0 when that is done.
+using Occupant = int (*)(const QByteArray& path);
+
+/// No file grows beyond a size while it lives, as on a disk that is nearly full.
+class SmallFiles
+{
+public:
+    explicit SmallFiles(rlim_t size)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit small = m_before;
+        small.rlim_cur = size;
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+
+    ~SmallFiles()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before = {};
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(Occupant)
 
 class tst_StateFile : public QObject
 {
@@ -38,6 +74,9 @@ private Q_SLOTS:
     void otherBytesAreDamaged();
     void valuesOfOtherTypesAreLeftOut();
     void aDamagedFileIsSetAsideAndTold();
+    void whatIsNoFileIsSetAsideAndTold_data();
+    void whatIsNoFileIsSetAsideAndTold();
+    void aFullDiskIsToldAndTheLastStateStays();
     void severalDamagedFilesAreAllKept();
     void aLaterVersionIsReadAndCopied();
     void anUnwritableFolderIsToldOnce();
@@ -118,6 +157,54 @@ void tst_StateFile::aDamagedFileIsSetAsideAndTold()
     QCOMPARE(messages.size(), 1);
     QVERIFY2(messages.first().contains(aside.first()), qPrintable(messages.first()));
     QVERIFY(file.takeMessages().isEmpty());
+    file.store({{"a", 2}});
+    QCOMPARE(intIn(StateFile(path).load(), "a", 0), 2);
+}
+
+void tst_StateFile::whatIsNoFileIsSetAsideAndTold_data()
+{
+    QTest::addColumn<Occupant>("occupy");
+    QTest::newRow("a folder") << Occupant([](const QByteArray& path) { return ::mkdir(path, 0700); });
+    QTest::newRow("a pipe that nobody writes to")
+        << Occupant([](const QByteArray& path) { return ::mkfifo(path, 0600); });
+    QTest::newRow("a device without an end")
+        << Occupant([](const QByteArray& path) { return ::symlink("/dev/zero", path); });
+    QTest::newRow("a link to itself") << Occupant([](const QByteArray& path) { return ::symlink(path, path); });
+}
+
+void tst_StateFile::whatIsNoFileIsSetAsideAndTold()
+{
+    QFETCH(Occupant, occupy);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("workbench.json"));
+    QCOMPARE(occupy(QFile::encodeName(path)), 0);
+    QVERIFY(!stateBytes(path));
+    StateFile file(path);
+    QVERIFY(file.load().empty());
+    const QStringList messages = file.takeMessages();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages.first().contains(path + QStringLiteral(".damaged-")), qPrintable(messages.first()));
+    file.store({{"a", 1}});
+    QCOMPARE(file.takeMessages(), QStringList());
+    QCOMPARE(intIn(StateFile(path).load(), "a", 0), 1);
+}
+
+void tst_StateFile::aFullDiskIsToldAndTheLastStateStays()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("workbench.json"));
+    StateFile file(path);
+    file.store({{"a", 1}});
+    const QByteArray before = bytesOf(path);
+    {
+        const SmallFiles limit(1000);
+        file.store({{"a", std::string(5000, 'x')}});
+    }
+    const QStringList messages = file.takeMessages();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages.first().endsWith(qt_error_string(EFBIG)), qPrintable(messages.first()));
+    QCOMPARE(bytesOf(path), before);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     file.store({{"a", 2}});
     QCOMPARE(intIn(StateFile(path).load(), "a", 0), 2);
 }

@@ -92,8 +92,8 @@
         <translation>前进</translation>
     </message>
     <message>
-        <source>The state of the last run, %1, cannot be read.</source>
-        <translation>无法读取上次运行的状态 %1。</translation>
+        <source>The state of the last run cannot be read and is set aside as %1.</source>
+        <translation>无法读取上次运行的状态，已另存为 %1。</translation>
     </message>
     <message>
         <source>The state of the last run was damaged and is set aside as %1.</source>
