@@ -3,6 +3,7 @@
 #include "workbench/Vocabulary.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int kVersion = 1;
 constexpr auto kVersionKey = "version";
+constexpr auto kSumKey = "sum";
 
 /// A state is some kilobytes; what is larger or deeper was not written by this program and would only cost memory.
 constexpr int kLargestFile = 4 * 1024 * 1024;
@@ -36,6 +38,18 @@ const Json* memberOf(const Json& object, const char* key)
         return nullptr;
     const auto found = object.find(key);
     return found == object.end() ? nullptr : &*found;
+}
+
+QByteArray written(const Json& state, int indent)
+{
+    return QByteArray::fromStdString(state.dump(indent, ' ', false, Json::error_handler_t::replace));
+}
+
+/// Of what stands in the state besides it, however it is laid out.
+QString sumOf(Json state)
+{
+    state.erase(kSumKey);
+    return QString::fromLatin1(QCryptographicHash::hash(written(state, -1), QCryptographicHash::Sha1).toHex());
 }
 
 /// A link to the file stays one.
@@ -96,15 +110,17 @@ StateReading readState(const QByteArray& bytes)
     if (isTooDeep || !state.is_object())
         return {Json::object(), StateFault::Damaged};
     const int version = intIn(state, kVersionKey, 0);
-    if (version < 1)
+    if (version < 1 || (state.contains(kSumKey) && textIn(state, kSumKey) != sumOf(state)))
         return {Json::object(), StateFault::Damaged};
+    state.erase(kSumKey);
     return {std::move(state), version > kVersion ? StateFault::Newer : StateFault::None};
 }
 
 QByteArray writtenState(Json state)
 {
     state[kVersionKey] = kVersion;
-    return QByteArray::fromStdString(state.dump(1, ' ', false, Json::error_handler_t::replace)) + '\n';
+    state[kSumKey] = sumOf(state).toStdString();
+    return written(state, 1) + '\n';
 }
 
 StateFile::StateFile(QString path)

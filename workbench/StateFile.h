@@ -30,7 +30,9 @@ struct StateReading
 /// What never ends or waits for a writer, as a device or a pipe, is no file.
 std::optional<QByteArray> stateBytes(const QString& path);
 
-/// Reads the bytes of a state file. Any bytes may be handed in.
+/// Reads the bytes of a state file. Any bytes may be handed in. A state whose sum is another one is damaged, be it that
+/// it can be read: a number of it may be wrong, and Qt goes down with a layout that is. Who writes a state by hand
+/// leaves the sum out.
 StateReading readState(const QByteArray& bytes);
 
 /// The bytes of a state file of this version. Keys that this version does not know stand in it as they were read.

@@ -70,6 +70,7 @@ class tst_StateFile : public QObject
 private Q_SLOTS:
     void whatIsWrittenIsRead();
     void aFileCutAtAnyPlaceIsDamaged();
+    void aByteThatChangedIsNoticed();
     void otherBytesAreDamaged_data();
     void otherBytesAreDamaged();
     void valuesOfOtherTypesAreLeftOut();
@@ -101,6 +102,29 @@ void tst_StateFile::aFileCutAtAnyPlaceIsDamaged()
         QVERIFY(reading.state.empty());
     }
     QVERIFY(readState(whole.chopped(1)).fault == StateFault::None);
+}
+
+void tst_StateFile::aByteThatChangedIsNoticed()
+{
+    const Json state = {{"layout", "AAAA/wAAAAD9"}, {"cells", {{"2", 0.12}, {"text", "备注 \xff"}}}, {"half", 1.5}};
+    const QByteArray whole = writtenState(state);
+    const Json before = readState(whole).state;
+    QCOMPARE(numberIn(objectIn(before, "cells"), "2", 0), 0.12);
+    int noticed = 0;
+    for (int place = 0; place < whole.size(); ++place) {
+        for (const char other : {'0', '7', 'Q', ' '}) {
+            QByteArray changed = whole;
+            changed[place] = other;
+            const StateReading reading = readState(changed);
+            noticed += reading.fault == StateFault::Damaged;
+            if (reading.fault == StateFault::Damaged)
+                continue;
+            // The name of the sum itself, and room between the values.
+            for (const auto& member : before.items())
+                QVERIFY2(reading.state.value(member.key(), Json()) == member.value(), changed.constData());
+        }
+    }
+    QVERIFY(noticed > 3 * whole.size());
 }
 
 void tst_StateFile::otherBytesAreDamaged_data()
