@@ -59,7 +59,7 @@ install_and_remove() {
         LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) "$root/usr/bin/orderparam-$program" --version || return
     done
     in_root --purge "${names[@]}" || return
-    left=$(find "$root" -path "$root/var/lib/dpkg" -prune -o \( -type f -o -type l \) -print)
+    left=$(find "$root" -mindepth 1 -path "$root/var" -prune -o -print)
     [[ -z $left ]] || { printf 'left behind: %s\n' "$left"; return 1; }
 }
 
