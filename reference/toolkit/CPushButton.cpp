@@ -92,6 +92,8 @@ public:
     void paintContent(QPainter& painter) const;
     void paintMarks(QPainter& painter) const;
     bool isElided() const;
+    int minWidth() const;
+    void keepRoom();
 
     CPushButton* const button;
     const int id;
@@ -100,6 +102,7 @@ public:
     EPushButtonDownStyle downStyle = DownStylePlain;
     QString icon;
     EIconAlign iconAlign = IconAlignCenter;
+    int toldWidth = 0; ///< what whoever lays the button out last heard of its contents' width
 };
 
 void CPushButtonPrivate::setUp()
@@ -162,6 +165,23 @@ bool CPushButtonPrivate::isElided() const
 {
     const int room = button->width() - 2 * padding() - gap() - iconEdge();
     return painting::textWidth(font(button->isChecked()), button->text()) > room;
+}
+
+int CPushButtonPrivate::minWidth() const
+{
+    return contentWidth() + 2 * padding();
+}
+
+// A host fixes the width once, to what it was told and some room. At another scale the contents are wider, the room
+// stays.
+void CPushButtonPrivate::keepRoom()
+{
+    const bool isFixed = toldWidth > 0 && button->minimumWidth() == button->maximumWidth();
+    if (!isFixed)
+        return;
+    const int room = button->minimumWidth() - toldWidth;
+    toldWidth = minWidth();
+    button->setFixedWidth(std::max(0, toldWidth + room));
 }
 
 void CPushButtonPrivate::paintGround(QPainter& painter) const
@@ -249,14 +269,14 @@ QString CPushButton::iconKey() const
 
 int CPushButton::getMinWidth() const
 {
-    return d->contentWidth() + 2 * d->padding();
+    return d->toldWidth = d->minWidth();
 }
 
 QSize CPushButton::sizeHint() const
 {
     if (d->isEmpty())
         return {0, 0};
-    return {getMinWidth(), resources::size(keys::kFieldHeight, painting::buttonScaleOf(this))};
+    return {d->minWidth(), resources::size(keys::kFieldHeight, painting::buttonScaleOf(this))};
 }
 
 QSize CPushButton::minimumSizeHint() const
@@ -271,6 +291,7 @@ void CPushButton::themeChanged()
 
 void CPushButton::scaleChanged()
 {
+    d->keepRoom();
     updateGeometry();
     update();
 }
