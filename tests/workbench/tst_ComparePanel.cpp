@@ -159,7 +159,8 @@ void tst_ComparePanel::itIsExportedWithCommasAndTabs()
     const QString tabs = folder.filePath(QStringLiteral("a.tsv"));
     QCOMPARE(panel.exportTo(commas), QString());
     QCOMPARE(panel.exportTo(tabs), QString());
-    QVERIFY(contents(commas).startsWith("≠,Cell,Fact,Left,Right\r\n,Table,order type,0  plain order,0  plain order\r\n"));
+    QVERIFY(
+        contents(commas).startsWith("≠,Cell,Fact,Left,Right\r\n,Table,order type,0  plain order,0  plain order\r\n"));
     QVERIFY(contents(commas).contains("\r\n≠,0x200 单笔最小量,unit,股,张\r\n"));
     QVERIFY(contents(tabs).contains("\n≠\t0x200 单笔最小量\tunit\t股\t张\n"));
     QCOMPARE(contents(tabs).count('\n'), panel.model()->rowCount() + 1);
