@@ -34,7 +34,7 @@ protected:
     {
         QTextStream out(stdout);
         if (id == kCreditTable && event == WQ::events::kEntryChosen)
-            out << "account: " << static_cast<const QVariant*>(payload)->toString() << '\n'; // ours until we return
+            out << "account '" << static_cast<const QVariant*>(payload)->toString() << "'\n"; // ours until we return
         else if (id == kCreditTable && event == TC::events::kContractCodeEmptied)
             out << "no contract\n";
         return false;
