@@ -7,6 +7,34 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+// Processors and versions of the font's renderer differ in shades; a word or a line that moved differs by far more.
+constexpr int kShade = 24;
+
+bool isAlike(QRgb one, QRgb other)
+{
+    return std::abs(qRed(one) - qRed(other)) <= kShade && std::abs(qGreen(one) - qGreen(other)) <= kShade
+        && std::abs(qBlue(one) - qBlue(other)) <= kShade && qAlpha(one) == qAlpha(other);
+}
+
+bool areAlike(const QImage& one, const QImage& other)
+{
+    if (one.size() != other.size())
+        return false;
+    for (int y = 0; y < one.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(one.constScanLine(y));
+        if (!std::equal(line, line + one.width(), reinterpret_cast<const QRgb*>(other.constScanLine(y)), isAlike))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
 /// The pictures of panels that the documents show are what the workbench's tour writes today.
 class tst_PanelPictures : public QObject
 {
@@ -49,7 +77,7 @@ void tst_PanelPictures::eachPictureIsTheToursOfToday()
     const auto read = [](const QString& path) { return QImage(path).convertToFormat(QImage::Format_ARGB32); };
     const QImage today = read(m_tour.filePath(name));
     QVERIFY2(!today.isNull(), qPrintable(QStringLiteral("the tour has no ") + name));
-    QVERIFY2(today == read(QStringLiteral(ORDERPARAM_SOURCES "/") + picture),
+    QVERIFY2(areAlike(today, read(QStringLiteral(ORDERPARAM_SOURCES "/") + picture)),
              "out of date, run scripts/update-pictures.sh");
 }
 
