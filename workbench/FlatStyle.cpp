@@ -1,7 +1,10 @@
 #include "workbench/FlatStyle.h"
 
+#include "workbench/TitleIcon.h"
+
 #include "reference/toolkit/Resources.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -15,6 +18,7 @@ constexpr int kScrollBarWidth = 8;
 constexpr int kSmallestHandle = 24;
 constexpr int kArrowWidth = 20;
 constexpr int kFieldMargin = 3;
+constexpr int kTitleIcon = 16;
 
 int scaledBy(int size)
 {
@@ -166,6 +170,10 @@ void FlatStyle::drawControl(ControlElement element, const QStyleOption* option, 
     case CE_HeaderEmptyArea:
         painter->fillRect(option->rect, option->palette.color(QPalette::Window));
         return drawHairline(*painter, option->rect, option->palette.color(QPalette::Mid));
+    case CE_DockWidgetTitle:
+        // Else Qt paints it in the font that the program started with.
+        painter->setFont(QApplication::font());
+        return QProxyStyle::drawControl(element, option, painter, widget);
     case CE_TabBarTabShape:
         if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option))
             drawTab(*painter, *tab);
@@ -250,12 +258,36 @@ QRect FlatStyle::subControlRect(ComplexControl control, const QStyleOptionComple
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
+/// Qt makes room for arrows as wide as at scale 1.
+QSize FlatStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                  const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type != CT_SpinBox && type != CT_ComboBox)
+        return size;
+    return size.expandedTo({contents.width() + 2 * kFieldMargin + scaledBy(kArrowWidth), 0});
+}
+
+QIcon FlatStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_TitleBarCloseButton:
+        return QIcon(new TitleIcon(TitleIcon::Sign::Cross));
+    case SP_TitleBarNormalButton:
+        return QIcon(new TitleIcon(TitleIcon::Sign::Frame));
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
+}
+
 /// What Qt draws beside texts grows with them.
 int FlatStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
     case PM_DockWidgetSeparatorExtent:
         return 5;
+    case PM_TitleBarButtonIconSize:
+        return scaledBy(kTitleIcon);
     case PM_ScrollBarExtent:
         return scaledBy(kScrollBarWidth);
     case PM_IndicatorWidth:

@@ -230,6 +230,7 @@ void MainWindow::chooseScale(double scale)
     setScale(scale);
     m_bench->scaleTable();
     m_credit->scaleTable();
+    scaleTitles();
     tickChoices();
     m_keeper->commit();
 }

@@ -102,6 +102,7 @@ private:
     void createCentre();
     void createDocks();
     void arrangeParts();
+    void scaleTitles();
     QWidget* createWhy();
     QWidget* createCompare();
     QWidget* createSetup();

@@ -16,9 +16,11 @@
 
 #include "reference/toolkit/Resources.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QCoreApplication>
 #include <QDockWidget>
+#include <QLayout>
 
 namespace workbench {
 
@@ -123,6 +125,19 @@ void MainWindow::arrangeParts()
                 {qRound(kSetupWidth * scale), qRound(kControlsWidth * scale)}, Qt::Horizontal);
     resizeDocks({dock("eventsDock")}, {qRound(kEventsHeight * scale)}, Qt::Vertical);
     resizeDocks({dock("quoteDock")}, {qRound(kQuoteHeight * scale)}, Qt::Vertical);
+}
+
+/// Qt measures the title of a part and its buttons once.
+void MainWindow::scaleTitles()
+{
+    for (QDockWidget* part : qAsConst(m_docks)) {
+        for (auto* button : part->findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+            QEvent restyled(QEvent::StyleChange);
+            QCoreApplication::sendEvent(button, &restyled);
+        }
+        part->layout()->invalidate();
+        part->layout()->activate();
+    }
 }
 
 void MainWindow::addDock(const DockRow& row)
