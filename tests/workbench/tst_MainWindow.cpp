@@ -51,6 +51,7 @@ private Q_SLOTS:
     void eventsOfEveryPanelArrive();
     void themeScaleAndLanguageChangeAtOnce();
     void choicesAreBackAfterARestart();
+    void partsStandWhereTheyWerePutAfterARestart();
     void aBrokenStateFileIsNoObstacle();
     void aCommitIsOnDiskInTheNextPass();
     void anotherTableAndBackIsAsItWasLeft();
@@ -169,6 +170,38 @@ void tst_MainWindow::choicesAreBackAfterARestart()
     QCOMPARE(int(window.bench()->table()->getId()), 43);
     QCOMPARE(window.form()->setup().brokerType, 6);
     QVERIFY(window.form()->setup().tableClass == TableClass::Code);
+}
+
+void tst_MainWindow::partsStandWhereTheyWerePutAfterARestart()
+{
+    const auto part = [](const MainWindow& window, const char* name) {
+        return window.findChild<QDockWidget*>(QLatin1String(name));
+    };
+    QSize size;
+    {
+        MainWindow window({});
+        window.loadState();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.resize(1240, 790);
+        window.addDockWidget(Qt::RightDockWidgetArea, part(window, "quoteDock"));
+        part(window, "ticketDock")->setFloating(true);
+        part(window, "tasksDock")->close();
+        QCoreApplication::processEvents();
+        size = window.size();
+        window.close();
+    }
+    MainWindow window({});
+    QVERIFY(window.size() != size);
+    window.loadState();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.size(), size);
+    QCOMPARE(window.dockWidgetArea(part(window, "quoteDock")), Qt::RightDockWidgetArea);
+    QCOMPARE(window.dockWidgetArea(part(window, "setupDock")), Qt::LeftDockWidgetArea);
+    QVERIFY(part(window, "ticketDock")->isFloating());
+    QVERIFY(part(window, "tasksDock")->isHidden());
+    QVERIFY(!part(window, "eventsDock")->isHidden());
 }
 
 void tst_MainWindow::aBrokenStateFileIsNoObstacle()
