@@ -60,6 +60,7 @@ void CellEditor::open(const CellItem& cell, const QRect& area, const RowMetrics&
 void CellEditor::close()
 {
     m_cell = nullptr;
+    m_arrows.release();
     const QPointer<CellEditor> alive(this);
     hide();
     if (alive && !m_cell)
@@ -178,6 +179,7 @@ void CellEditor::place(const QRect& area, const RowMetrics& metrics)
 {
     takeLook(metrics.font);
     m_gap = metrics.gap;
+    m_arrowWidth = metrics.chevron;
     setGeometry(area.adjusted(-kInnerMargin, 0, kInnerMargin + kCursorRoom, 0));
     layOut();
 }
@@ -209,8 +211,9 @@ int CellEditor::fieldWidth(int room) const
 
 void CellEditor::layOut()
 {
+    placeArrows();
     const int separatorWidth = painting::textWidth(m_look.font, separator());
-    const int width = fieldWidth(this->width() - separatorWidth);
+    const int width = fieldWidth(this->width() - separatorWidth - m_arrows.up().x() - m_arrows.up().width());
     int right = this->width();
     for (int i = fieldCount() - 1; i >= 0; --i) {
         m_fields[static_cast<size_t>(i)]->setGeometry(right - width, 0, width, height());
@@ -231,11 +234,14 @@ void CellEditor::paintEvent(QPaintEvent*)
                        separator().trimmed());
     painting::drawText(painter, m_periodArea, m_look.font, resources::color(keys::kUnit),
                        Qt::AlignLeft | Qt::AlignVCenter, periodText());
+    m_arrows.paint(painter, resources::color(keys::kUnit));
 }
 
 // A press beside the fields has taken the focus from them.
 void CellEditor::mousePressEvent(QMouseEvent* event)
 {
+    if (pressArrow(*event))
+        return;
     if (event->button() == Qt::LeftButton && m_periodArea.contains(event->pos()))
         switchPeriod();
     takeFocusAt(mapToParent(event->pos()));
@@ -244,7 +250,7 @@ void CellEditor::mousePressEvent(QMouseEvent* event)
 // Beside the fields a double click is the cell's as it is on them, and its second press counts as the first does.
 void CellEditor::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton && m_arrows.stepsAt(event->pos(), event->modifiers()) == 0)
         m_client->editorDoubleClicked();
     mousePressEvent(event);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference/toolkit/editors/EditRules.h"
+#include "reference/toolkit/editors/StepArrows.h"
 #include "reference/toolkit/editors/StepKeys.h"
 
 #include <QColor>
@@ -73,6 +74,12 @@ public:
     /// The field that has the focus, else the first.
     QLineEdit* field() const;
 
+    /// The arrows that step a number; empty without them.
+    const StepArrows& arrows() const
+    {
+        return m_arrows;
+    }
+
     /// Takes the colours of the theme.
     void themeChanged();
 
@@ -80,7 +87,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     static constexpr int kMostFields = 2;
@@ -104,6 +113,8 @@ private:
     bool keyPress(QKeyEvent& event);
     bool wheel(const QWheelEvent& event);
     bool step(int steps);
+    void placeArrows();
+    bool pressArrow(const QMouseEvent& event);
     QString periodText() const;
     QString separator() const;
     int fieldWidth(int room) const;
@@ -116,7 +127,9 @@ private:
     QRect m_periodArea;
     Draft m_start;
     EWqTimeRangeType m_period = TimeRangeClock;
+    StepArrows m_arrows;
     int m_gap = 0;
+    int m_arrowWidth = 0;
     WheelNotches m_wheel;
     bool m_loading = false;
     bool m_idle = true;

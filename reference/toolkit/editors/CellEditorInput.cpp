@@ -1,5 +1,6 @@
 #include "reference/toolkit/editors/CellEditor.h"
 
+#include "reference/toolkit/Painting.h"
 #include "reference/toolkit/editors/StepKeys.h"
 
 #include <QKeyEvent>
@@ -7,6 +8,8 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QStyle>
+#include <QTimerEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -99,6 +102,40 @@ bool CellEditor::step(int steps)
     line->setText(stepped->text);
     line->setSelection(stepped->selectionStart, stepped->selectionLength);
     return true;
+}
+
+// Beside the longest number that is usual, where a growing text does not reach them; none where it leaves no room.
+void CellEditor::placeArrows()
+{
+    const bool hasSteps = fieldCount() == 1 && m_cell && stepField(*m_cell, draft(), 0, 0, 0);
+    const int usual = std::max(painting::textWidth(m_look.font, QStringLiteral("0000000.00")),
+                               painting::textWidth(m_look.font, field()->text()) + 2 * m_gap);
+    const int left = width() - usual - m_arrowWidth;
+    m_arrows.place(hasSteps && left >= 0 ? QRect(left, 0, m_arrowWidth, height()) : QRect());
+}
+
+bool CellEditor::pressArrow(const QMouseEvent& event)
+{
+    const int steps = event.button() == Qt::LeftButton ? m_arrows.stepsAt(event.pos(), event.modifiers()) : 0;
+    if (steps == 0)
+        return false;
+    takeFocus();
+    step(steps);
+    m_arrows.press(steps, *this, *style());
+    return true;
+}
+
+void CellEditor::mouseReleaseEvent(QMouseEvent*)
+{
+    m_arrows.release();
+}
+
+void CellEditor::timerEvent(QTimerEvent* event)
+{
+    if (const int steps = m_arrows.repeat(event->timerId(), *this, *style()))
+        step(steps);
+    else
+        QWidget::timerEvent(event);
 }
 
 } // namespace WQ
