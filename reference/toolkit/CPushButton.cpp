@@ -92,8 +92,6 @@ public:
     void paintContent(QPainter& painter) const;
     void paintMarks(QPainter& painter) const;
     bool isElided() const;
-    int minWidth() const;
-    void keepRoom();
 
     CPushButton* const button;
     const int id;
@@ -102,7 +100,6 @@ public:
     EPushButtonDownStyle downStyle = DownStylePlain;
     QString icon;
     EIconAlign iconAlign = IconAlignCenter;
-    int toldWidth = 0; ///< what whoever lays the button out last heard of its contents' width
 };
 
 void CPushButtonPrivate::setUp()
@@ -165,23 +162,6 @@ bool CPushButtonPrivate::isElided() const
 {
     const int room = button->width() - 2 * padding() - gap() - iconEdge();
     return painting::textWidth(font(button->isChecked()), button->text()) > room;
-}
-
-int CPushButtonPrivate::minWidth() const
-{
-    return contentWidth() + 2 * padding();
-}
-
-// A host fixes the width once, to what it was told and some room. At another scale the contents are wider, the room
-// stays.
-void CPushButtonPrivate::keepRoom()
-{
-    const bool isFixed = toldWidth > 0 && button->minimumWidth() == button->maximumWidth();
-    if (!isFixed)
-        return;
-    const int room = button->minimumWidth() - toldWidth;
-    toldWidth = minWidth();
-    button->setFixedWidth(std::max(0, toldWidth + room));
 }
 
 void CPushButtonPrivate::paintGround(QPainter& painter) const
@@ -269,14 +249,14 @@ QString CPushButton::iconKey() const
 
 int CPushButton::getMinWidth() const
 {
-    return d->toldWidth = d->minWidth();
+    return d->contentWidth() + 2 * d->padding();
 }
 
 QSize CPushButton::sizeHint() const
 {
     if (d->isEmpty())
         return {0, 0};
-    return {d->minWidth(), resources::size(keys::kFieldHeight, painting::buttonScaleOf(this))};
+    return {getMinWidth(), resources::size(keys::kFieldHeight, painting::buttonScaleOf(this))};
 }
 
 QSize CPushButton::minimumSizeHint() const
@@ -291,7 +271,6 @@ void CPushButton::themeChanged()
 
 void CPushButton::scaleChanged()
 {
-    d->keepRoom();
     updateGeometry();
     update();
 }

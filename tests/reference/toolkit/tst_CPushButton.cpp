@@ -63,8 +63,6 @@ private Q_SLOTS:
     void withoutTextAndIconItTakesNoRoom();
     void theLeastWidthHoldsTextAndPadding();
     void itsTextGrowsToEighteenPixels();
-    void aWidthThatWasFixedToItsTextGrowsWithIt();
-    void aFixedWidthOfItsOwnStays();
     void inADialogItKeepsItsSize();
     void theImageComesFromItsKey();
     void aTextThatDoesNotFitIsInTheToolTip();
@@ -265,39 +263,6 @@ void CPushButtonTest::itsTextGrowsToEighteenPixels()
     QCOMPARE(button.getMinWidth(), 4 * 18 + 2 * 8);
     resources::setScale(3.0);
     QCOMPARE(button.getMinWidth(), 4 * 18 + 2 * 8);
-}
-
-void CPushButtonTest::aWidthThatWasFixedToItsTextGrowsWithIt()
-{
-    QWidget host;
-    CPushButton button(colors(), 600, &host);
-    button.setText(kText);
-    const int least = button.getMinWidth();
-    button.setFixedWidth(least + 10);
-    for (const double scale : {1.25, 3.0, 1.0}) {
-        resources::setScale(scale);
-        CPushButton fresh(colors(), 600, &host);
-        fresh.setText(kText);
-        QCOMPARE(button.minimumWidth(), fresh.getMinWidth() + 10);
-        QCOMPARE(button.maximumWidth(), button.minimumWidth());
-        QCOMPARE(button.getMinWidth() > least, scale > 1.0);
-    }
-}
-
-void CPushButtonTest::aFixedWidthOfItsOwnStays()
-{
-    QWidget host;
-    CPushButton button(colors(), 600, &host);
-    button.setText(kText);
-    button.setFixedWidth(90);
-    resources::setScale(2.0);
-    QCOMPARE(button.minimumWidth(), 90);
-    CPushButton free(colors(), 600, &host);
-    free.setText(kText);
-    free.setMinimumWidth(free.getMinWidth());
-    const int least = free.minimumWidth();
-    resources::setScale(1.0);
-    QCOMPARE(free.minimumWidth(), least);
 }
 
 void CPushButtonTest::inADialogItKeepsItsSize()
