@@ -45,8 +45,8 @@ int StepArrows::stepsAt(const QPoint& position, Qt::KeyboardModifiers modifiers)
 {
     if (!m_area.contains(position))
         return 0;
-    const int many = modifiers.testFlag(Qt::ShiftModifier) ? kManySteps : 1;
-    return up().contains(position) ? many : -many;
+    const int steps = stepsWith(modifiers);
+    return up().contains(position) ? steps : -steps;
 }
 
 void StepArrows::paint(QPainter& painter, const QColor& color) const

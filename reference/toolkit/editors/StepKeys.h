@@ -5,14 +5,19 @@
 
 namespace WQ {
 
-/// What Shift makes of one step, by key or wheel.
 constexpr int kManySteps = 10;
+
+/// What Shift makes of one step, by key, wheel or arrow.
+inline int stepsWith(Qt::KeyboardModifiers modifiers)
+{
+    return modifiers.testFlag(Qt::ShiftModifier) ? kManySteps : 1;
+}
 
 /// How far a key steps the number or time in an editor: Up and Down one step, ten with Shift, a page ten. 0 for a key
 /// that does not step.
 inline int stepsOf(const QKeyEvent& event)
 {
-    const int few = event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1;
+    const int few = stepsWith(event.modifiers());
     switch (event.key()) {
     case Qt::Key_Up:
         return few;
@@ -43,7 +48,7 @@ public:
     /// The same as steps of a value: ten a notch with Shift.
     int takeSteps(const QWheelEvent& event)
     {
-        return take(event) * (event.modifiers().testFlag(Qt::ShiftModifier) ? kManySteps : 1);
+        return take(event) * stepsWith(event.modifiers());
     }
 
     void clear()
