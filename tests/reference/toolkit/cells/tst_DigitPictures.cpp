@@ -1,34 +1,17 @@
+#include "TextCanvas.h"
 #include "reference/toolkit/cells/DigitPictures.h"
-#include "reference/toolkit/cells/TextFace.h"
-
-#include "reference/toolkit/Resources.h"
-#include "reference/toolkit/ThemeKeys.h"
 
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QtTest>
 
 using namespace WQ;
+using namespace text_canvas;
 using texts::TextSpan;
 
 namespace {
 
-constexpr QRgb kGround = 0xff171b21;
-constexpr QRgb kInk = 0xffe8ebf0;
 constexpr QPoint kPlace(20, 4);
-
-const texts::Face& panelFace(double scale = 1.0)
-{
-    return texts::faceOf(resources::font(keys::kTextFont, scale));
-}
-
-QImage canvas(int ratio)
-{
-    QImage image(QSize(240, 40) * ratio, QImage::Format_RGB32);
-    image.setDevicePixelRatio(ratio);
-    image.fill(kGround);
-    return image;
-}
 
 /// What the face draws of a number, and ground where it is not seen.
 QImage expected(const texts::Face& face, const QString& number, const TextSpan& seen, int ratio, QRgb ink = kInk)

@@ -1,8 +1,5 @@
+#include "TextCanvas.h"
 #include "reference/toolkit/cells/TextCache.h"
-#include "reference/toolkit/cells/TextFace.h"
-
-#include "reference/toolkit/Resources.h"
-#include "reference/toolkit/ThemeKeys.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -13,25 +10,11 @@
 #include <QtTest>
 
 using namespace WQ;
+using namespace text_canvas;
 
 namespace {
 
-const QColor kGround(0x17, 0x1b, 0x21);
-const QColor kInk(0xe8, 0xeb, 0xf0);
 constexpr QRect kArea(10, 4, 200, 25);
-
-const texts::Face& panelFace(double scale = 1.0)
-{
-    return texts::faceOf(resources::font(keys::kTextFont, scale));
-}
-
-QImage canvas(int ratio)
-{
-    QImage image(QSize(240, 34) * ratio, QImage::Format_RGB32);
-    image.setDevicePixelRatio(ratio);
-    image.fill(kGround);
-    return image;
-}
 
 /// @p pictureRatio 0 draws as it does where no pictures are kept.
 QImage drawn(const QString& text, int ratio, int pictureRatio, const QRect& area = kArea)
