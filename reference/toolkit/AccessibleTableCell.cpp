@@ -1,7 +1,6 @@
 #include "reference/toolkit/AccessibleTableCell.h"
 
 #include "reference/toolkit/CMultiParamsTablePrivate.h"
-#include "reference/toolkit/editors/CellInteraction.h"
 #include "reference/toolkit/editors/ChoicePopup.h"
 
 namespace WQ {
@@ -16,14 +15,8 @@ bool isListOpen(const CMultiParamsTable& table)
 
 } // namespace
 
-bool hasFooterFocus(const CMultiParamsTable& table)
-{
-    const CellInteraction* interaction = CMultiParamsTablePrivate::of(&table)->interactionIfAny();
-    return interaction && interaction->footerState().focus;
-}
-
 AccessibleTableCell::AccessibleTableCell(CMultiParamsTable* table, int id, int column)
-    : m_table(table)
+    : AccessibleTablePart(table)
     , m_id(id)
     , m_column(column)
 {
@@ -32,36 +25,6 @@ AccessibleTableCell::AccessibleTableCell(CMultiParamsTable* table, int id, int c
 bool AccessibleTableCell::isValid() const
 {
     return m_table && index().isValid();
-}
-
-QObject* AccessibleTableCell::object() const
-{
-    return nullptr;
-}
-
-QAccessibleInterface* AccessibleTableCell::parent() const
-{
-    return m_table ? QAccessible::queryAccessibleInterface(m_table.data()) : nullptr;
-}
-
-QAccessibleInterface* AccessibleTableCell::child(int) const
-{
-    return nullptr;
-}
-
-QAccessibleInterface* AccessibleTableCell::childAt(int, int) const
-{
-    return nullptr;
-}
-
-int AccessibleTableCell::childCount() const
-{
-    return 0;
-}
-
-int AccessibleTableCell::indexOfChild(const QAccessibleInterface*) const
-{
-    return -1;
 }
 
 QString AccessibleTableCell::text(QAccessible::Text kind) const
@@ -80,16 +43,9 @@ QString AccessibleTableCell::text(QAccessible::Text kind) const
     }
 }
 
-void AccessibleTableCell::setText(QAccessible::Text, const QString&)
-{
-}
-
 QRect AccessibleTableCell::rect() const
 {
-    if (!isValid())
-        return QRect();
-    const QRect place = m_table->visualRect(index());
-    return QRect(m_table->viewport()->mapToGlobal(place.topLeft()), place.size());
+    return isValid() ? onScreen(m_table->visualRect(index())) : QRect();
 }
 
 QAccessible::Role AccessibleTableCell::role() const
